@@ -1,0 +1,47 @@
+#include "cli/Cli.h"
+
+#include "Version.h"
+
+#include <ostream>
+
+namespace vorlane {
+
+std::string cliHelpText()
+{
+    return "Usage: vorlane-cli COMMAND [ARGUMENTS]\n"
+           "\n"
+           "Checks Vorlane project files and generates the Korrin engine's files from them,\n"
+           "without a display.\n"
+           "\n"
+           "Commands:\n"
+           "  --help       show this help and exit\n"
+           "  --version    show the version and exit\n"
+           "\n"
+           "Exit codes:\n"
+           "  0  success\n"
+           "  1  the work failed (a file could not be read or written, or problems were found)\n"
+           "  2  usage error (unknown command, missing or extra arguments)\n"
+           "\n"
+           "Errors are printed on standard error as \"vorlane-cli: FILE:LINE: message\".\n";
+}
+
+int runCli(const std::vector<std::string> &args, std::ostream &out, std::ostream &err)
+{
+    if (args.empty()) {
+        err << "vorlane-cli: no command given; see vorlane-cli --help\n";
+        return ExitUsage;
+    }
+    const std::string &command = args[0];
+    if (command == "--help" || command == "-h" || command == "help") {
+        out << cliHelpText();
+        return ExitSuccess;
+    }
+    if (command == "--version") {
+        out << "vorlane-cli " << VersionText << "\n";
+        return ExitSuccess;
+    }
+    err << "vorlane-cli: unknown command \"" << command << "\"; see vorlane-cli --help\n";
+    return ExitUsage;
+}
+
+} // namespace vorlane

@@ -1,0 +1,19 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+
+namespace vorlane {
+
+// Appends `utf8` converted to Windows-1252; a character Windows-1252 cannot hold (or a
+// malformed UTF-8 sequence) becomes "?". Bytes 0x81, 0x8D, 0x8F, 0x90 and 0x9D stand for the
+// control characters U+0081, U+008D, U+008F, U+0090 and U+009D, so every byte round-trips.
+void appendCp1252(std::string &out, std::string_view utf8);
+
+// Appends the Windows-1252 `bytes` converted to UTF-8.
+void appendUtf8(std::string &out, std::string_view bytes);
+
+std::string toCp1252(std::string_view utf8);
+std::string toUtf8(std::string_view cp1252);
+
+} // namespace vorlane
