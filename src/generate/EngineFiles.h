@@ -1,0 +1,38 @@
+#pragma once
+
+#include "model/modGlobal.h"
+
+#include <functional>
+#include <string>
+#include <string_view>
+
+namespace vorlane {
+
+// Called after each object record written to an engine data file.
+using RecordWritten = std::function<void()>;
+
+// Appends the bytes of app.cfg; `dataFolderRel` is the output folder relative to the root.
+void appendAppCfg(std::string &out, const AppSettingsRec &settings, std::string_view dataFolderRel);
+// Appends the bytes of log.cfg.
+void appendLogCfg(std::string &out, const AppSettingsRec &settings);
+// Appends the bytes of the engine data file of `kind`, its objects in list order.
+void appendDataFile(std::string &out,
+                    const Document &doc,
+                    Kind kind,
+                    const RecordWritten &recordWritten = {});
+
+// The bytes of each engine file (Windows-1252, CR LF).
+std::string appCfg(const AppSettingsRec &settings, std::string_view dataFolderRel);
+std::string logCfg(const AppSettingsRec &settings);
+std::string dataFile(const Document &doc, Kind kind);
+std::string buttonDat(const Document &doc);
+std::string imageDat(const Document &doc);
+std::string cursorDat(const Document &doc);
+std::string textDat(const Document &doc);
+std::string fontDat(const Document &doc);
+std::string musicDat(const Document &doc);
+std::string sfxDat(const Document &doc);
+std::string spriteDat(const Document &doc);
+std::string sceneDat(const Document &doc);
+
+} // namespace vorlane

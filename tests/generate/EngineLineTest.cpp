@@ -1,0 +1,94 @@
+#include "generate/EngineLine.h"
+#include "generate/EngineLineSize.h"
+
+#include <gtest/gtest.h>
+
+#include <string>
+
+namespace vorlane {
+namespace {
+
+// Writes with `write` into a buffer measured by the same calls, as the file writers do.
+template<class Write>
+std::string lines(const Write &write)
+{
+    EngineLineSize size;
+    write(size);
+    std::string out(size.size(), '#');
+    EngineLine line(out.data());
+    write(line);
+    EXPECT_LE(static_cast<std::size_t>(line.position() - out.data()), size.size());
+    out.resize(static_cast<std::size_t>(line.position() - out.data()));
+    return out;
+}
+
+TEST(EngineLine, PositiveAndZeroNumbersCarryALeadingBlank)
+{
+    EXPECT_EQ(lines([](auto &l) { l.number(640).end(); }), " 640\r\n");
+    EXPECT_EQ(lines([](auto &l) { l.number(0).end(); }), " 0\r\n");
+}
+
+TEST(EngineLine, NumbersAreJoinedByOneFurtherBlank)
+{
+    EXPECT_EQ(lines([](auto &l) { l.number(640).number(480).end(); }), " 640  480\r\n");
+}
+
+TEST(EngineLine, NegativeNumberStandsDirectlyAfterTheSeparator)
+{
+    EXPECT_EQ(lines([](auto &l) { l.number(5).number(-1).end(); }), " 5 -1\r\n");
+    EXPECT_EQ(lines([](auto &l) { l.number(-32768).end(); }), "-32768\r\n");
+    EXPECT_EQ(lines([](auto &l) { l.number(-2147483647 - 1).number(2147483647).end(); }),
+              "-2147483648  2147483647\r\n");
+}
+
+TEST(EngineLine, TextsStandAsTheyAreJoinedByOneBlank)
+{
+    EXPECT_EQ(lines([](auto &l) { l.text("id").text("a path").number(3).end(); }),
+              "id a path  3\r\n");
+}
+
+TEST(EngineLine, StarredTextIsFollowedDirectlyByTheNextItem)
+{
+    EXPECT_EQ(lines([](auto &l) { l.starred("data\\").starred("Cap").number(1).end(); }),
+              "data\\* Cap*  1\r\n");
+    EXPECT_EQ(lines([](auto &l) { l.starred("").text("x").end(); }), "* x\r\n");
+}
+
+TEST(EngineLine, EndStarredClosesTheLineWithAnAsterisk)
+{
+    EXPECT_EQ(lines([](auto &l) { l.endStarred("Application: "); }), "Application: *\r\n");
+    EXPECT_EQ(lines([](auto &l) { l.number(1).endStarred("null"); }), " 1 null*\r\n");
+}
+
+TEST(EngineLine, JointDropsTheSeparatorBeforeTheNextNumber)
+{
+    EXPECT_EQ(lines([](auto &l) { l.number(1).joint().number(2).joint().number(-3).end(); }),
+              " 1 2-3\r\n");
+}
+
+TEST(EngineLine, CountLineIsABareZeroWhenEmpty)
+{
+    EXPECT_EQ(lines([](auto &l) { l.countLine(0); }), "0\r\n");
+    EXPECT_EQ(lines([](auto &l) { l.countLine(3); }), " 3\r\n");
+}
+
+TEST(EngineLine, TextsAreWrittenInWindows1252)
+{
+    // "é" and the en dash take one byte each in Windows-1252; "€" is 0x80; "あ" becomes "?".
+    EXPECT_EQ(
+        lines([](auto &l) { l.text("Caf\xC3\xA9 \xE2\x80\x93 \xE2\x82\xAC\xE3\x81\x82").end(); }),
+        "Caf\xE9 \x96 \x80?\r\n");
+}
+
+TEST(EngineLine, EachLineStartsWithoutASeparator)
+{
+    EXPECT_EQ(lines([](auto &l) {
+                  l.text("a").end();
+                  l.text("b").end();
+                  l.number(1).end();
+              }),
+              "a\r\nb\r\n 1\r\n");
+}
+
+} // namespace
+} // namespace vorlane
