@@ -1,6 +1,7 @@
 #include "cli/Cli.h"
 
 #include "Version.h"
+#include "cli/Convert.h"
 
 #include <ostream>
 
@@ -16,6 +17,10 @@ std::string cliHelpText()
            "Commands:\n"
            "  --help       show this help and exit\n"
            "  --version    show the version and exit\n"
+           "  convert IN.dvb OUT.dvb\n"
+           "               read the project file IN.dvb and save it as OUT.dvb, which then\n"
+           "               records OUT.dvb as its path; OUT.dvb is left alone if IN.dvb is\n"
+           "               damaged\n"
            "\n"
            "Exit codes:\n"
            "  0  success\n"
@@ -40,6 +45,8 @@ int runCli(const std::vector<std::string> &args, std::ostream &out, std::ostream
         out << "vorlane-cli " << VersionText << "\n";
         return ExitSuccess;
     }
+    if (command == "convert")
+        return runConvert({args.begin() + 1, args.end()}, out, err);
     err << "vorlane-cli: unknown command \"" << command << "\"; see vorlane-cli --help\n";
     return ExitUsage;
 }

@@ -1,0 +1,90 @@
+#include "project/Open.h"
+
+#include "project/ProjectReader.h"
+#include "project/SafeSave.h"
+#include "project/SystemFileOps.h"
+
+namespace vorlane {
+
+namespace {
+
+void showLoadError(UserInterface &ui, std::string text)
+{
+    ui.showMessage({std::move(text), "Load Error", MessageIcon::Exclamation, MessageButtons::OK});
+}
+
+} // namespace
+
+OpenOutcome openProject(Document &doc,
+                        const std::string &chosenPath,
+                        UserInterface &ui,
+                        ProgressSink &progress,
+                        FileOps &ops)
+{
+    OpenOutcome outcome;
+    outcome.path = chosenPath;
+    outcome.firstProject = doc.ProjectInfo.projectOpen == 0;
+    doc.ProjectInfo.projectFilePath = chosenPath;
+
+    progress.begin("Loading Data...");
+    if (doc.ProjectInfo.projectOpen == -1) {
+        progress.setLabel("Preparing to load data...");
+        InitData(doc);
+        for (ObjectList &list : doc.lists) {
+            list.lines.clear();
+            list.selected = -1;
+        }
+    }
+
+    std::string bytes;
+    if (const int error = ops.readAll(chosenPath, bytes); error != 0) {
+        progress.end();
+        outcome.status = OpenOutcome::Status::Unreadable;
+        outcome.reason = errorText(error);
+        showLoadError(ui, "Could not load \"" + chosenPath + "\": " + outcome.reason);
+        return outcome;
+    }
+
+    ProjectReadResult read = readProject(bytes, doc, progress);
+    progress.end();
+    switch (read.status) {
+    case ProjectReadResult::Status::Read:
+        break;
+    case ProjectReadResult::Status::Empty:
+        outcome.status = OpenOutcome::Status::Empty;
+        showLoadError(ui, "Could not load data - file empty!");
+        break;
+    case ProjectReadResult::Status::Damaged:
+        outcome.status = OpenOutcome::Status::Damaged;
+        outcome.line = read.line;
+        outcome.reason = std::move(read.message);
+        showLoadError(ui, damageText(chosenPath, outcome.line, outcome.reason));
+        break;
+    }
+    if (!outcome.opened())
+        outcome.firstProject = false;
+    return outcome;
+}
+
+OpenOutcome
+Open(Document &doc, const std::string &chosenPath, UserInterface &ui, ProgressSink &progress)
+{
+    return openProject(doc, chosenPath, ui, progress, systemFileOps());
+}
+
+std::string describeOpenFailure(const OpenOutcome &outcome)
+{
+    switch (outcome.status) {
+    case OpenOutcome::Status::Opened:
+        break;
+    case OpenOutcome::Status::Unreadable:
+        return outcome.path + ": " + outcome.reason;
+    case OpenOutcome::Status::Empty:
+        return outcome.path + ": the file is empty";
+    case OpenOutcome::Status::Damaged:
+        return damageText(outcome.path, outcome.line, outcome.reason);
+    }
+    return {};
+}
+
+} // namespace vorlane

@@ -1,0 +1,323 @@
+#include "project/ProjectReader.h"
+
+#include "model/Cp1252.h"
+#include "model/Kinds.h"
+#include "project/ProjectLayout.h"
+
+#include <array>
+#include <charconv>
+#include <cstdint>
+#include <tuple>
+
+namespace vorlane {
+
+namespace {
+
+// Thrown at the first damaged field; readProject turns it into its result.
+struct Damage
+{
+    int line;
+    std::string message;
+};
+
+std::string joined(std::string_view a, std::string_view b, std::string_view c = {})
+{
+    std::string out;
+    out.reserve(a.size() + b.size() + c.size());
+    out.append(a).append(b).append(c);
+    return out;
+}
+
+// Reads the fields of one buffer in a single pass, counting lines as it goes.
+class FieldReader
+{
+public:
+    explicit FieldReader(std::string_view bytes)
+        : m_pos(bytes.data())
+        , m_end(bytes.data() + bytes.size())
+    {}
+
+    void text(std::string &out, std::string_view name)
+    {
+        if (m_pos == m_end)
+            fail(joined("the file ends where text in double quotes was expected for ", name));
+        if (*m_pos != '"')
+            fail(joined("text in double quotes was expected for ", name));
+        const char *begin = m_pos + 1;
+        const char *p = begin;
+        unsigned char high = 0;
+        while (p != m_end && *p != '"' && *p != '\r' && *p != '\n') {
+            high |= static_cast<unsigned char>(*p);
+            ++p;
+        }
+        if (p == m_end || *p != '"')
+            fail(joined("the text for ", name, " has no closing double quote"));
+        if (high < 0x80) {
+            out.assign(begin, p);
+        } else {
+            out.clear();
+            appendUtf8(out, std::string_view(begin, static_cast<size_t>(p - begin)));
+        }
+        m_pos = p + 1;
+        endField(name);
+    }
+
+    template<class Int>
+    void number(Int &out, std::string_view name, int64_t min, int64_t max)
+    {
+        if (m_pos == m_end)
+            fail(joined("the file ends where a number was expected for ", name));
+        const char *p = m_pos;
+        if (*p == '-')
+            ++p;
+        const char *digits = p;
+        while (p != m_end && *p >= '0' && *p <= '9')
+            ++p;
+        if (p == digits)
+            fail(joined("a number was expected for ", name));
+        int64_t value = 0;
+        const auto [end, error] = std::from_chars(m_pos, p, value);
+        if (error != std::errc() || end != p || value < min || value > max)
+            fail(joined(
+                name, " must lie between ", std::to_string(min) + " and " + std::to_string(max)));
+        out = static_cast<Int>(value);
+        m_pos = p;
+        endField(name);
+    }
+
+private:
+    // A field ends at a comma, a line end or the end of the file.
+    void endField(std::string_view name)
+    {
+        if (m_pos == m_end)
+            return;
+        if (*m_pos == ',') {
+            ++m_pos;
+            return;
+        }
+        if (*m_pos == '\n') {
+            ++m_pos;
+            ++m_line;
+            return;
+        }
+        if (*m_pos == '\r' && m_pos + 1 != m_end && m_pos[1] == '\n') {
+            m_pos += 2;
+            ++m_line;
+            return;
+        }
+        fail(joined("unexpected characters after ", name));
+    }
+
+    [[noreturn]] void fail(std::string message) { throw Damage{m_line, std::move(message)}; }
+
+    const char *m_pos;
+    const char *m_end;
+    int m_line = 1;
+};
+
+template<class Rec, class R>
+void readField(FieldReader &in, Rec &rec, const layout::TextField<R> &field)
+{
+    in.text(rec.*field.member, field.name);
+}
+
+template<class Rec, class R, class Int>
+void readField(FieldReader &in, Rec &rec, const layout::IntField<R, Int> &field)
+{
+    in.number(rec.*field.member, field.name, field.min, field.max);
+}
+
+template<class Rec, class Line>
+void readFields(FieldReader &in, Rec &rec, const Line &line)
+{
+    std::apply([&](const auto &...field) { (readField(in, rec, field), ...); }, line);
+}
+
+void readRecord(FieldReader &in, ButtonRec &button)
+{
+    readFields(in, button, layout::ButtonHead);
+    if (layout::isHotSpotId(button.id)) {
+        // A hot spot's cursor is dropped on purpose: it comes back as "null".
+        button.isHotSpot = 1;
+        button.cursorId = "null";
+        button.frameDisabled = 0;
+        button.frameUp = 1;
+        for (std::string *reference : {&button.captionTextId,
+                                       &button.iconId,
+                                       &button.soundDisabled,
+                                       &button.soundDown,
+                                       &button.soundOver,
+                                       &button.soundUp})
+            *reference = "null";
+        readFields(in, button, layout::HotSpotTail);
+    } else {
+        button.isHotSpot = 0;
+        readFields(in, button, layout::ButtonTail);
+    }
+}
+
+void readRecord(FieldReader &in, ImageRec &image)
+{
+    readFields(in, image, layout::ImageLine);
+}
+
+void readRecord(FieldReader &in, CursorRec &cursor)
+{
+    readFields(in, cursor, layout::CursorLine);
+}
+
+void readRecord(FieldReader &in, TextRec &text)
+{
+    readFields(in, text, layout::TextLine);
+}
+
+void readRecord(FieldReader &in, FontRec &font)
+{
+    readFields(in, font, layout::FontLine);
+}
+
+void readRecord(FieldReader &in, MusicRec &music) // also sound effects
+{
+    readFields(in, music, layout::MusicLine);
+}
+
+// Animations and frames land in the lowest slots, whatever slots they had when saved.
+void readRecord(FieldReader &in, SpriteRec &sprite)
+{
+    readFields(in, sprite, layout::SpriteLine);
+    for (int a = 0; a < sprite.animCount; ++a) {
+        AnimRec &anim = sprite.anims[static_cast<size_t>(a)];
+        readFields(in, anim, layout::AnimLine);
+        for (int f = 0; f < anim.frameCount; ++f) {
+            FrameRec &frame = anim.frames[static_cast<size_t>(f)];
+            readFields(in, frame, layout::FrameLine);
+            frame.inUse = -1;
+        }
+        readFields(in, anim, layout::AnimSettingsLine);
+        anim.inUse = -1;
+    }
+}
+
+void readRecord(FieldReader &in, SceneRec &scene)
+{
+    readFields(in, scene, layout::SceneLine);
+    for (int l = 0; l < SubSlotCount; ++l) {
+        LayerRec &layer = scene.layers[static_cast<size_t>(l)];
+        if (l < scene.layerCount) {
+            readFields(in, layer, layout::LayerLine);
+            layer.inUse = -1;
+        } else {
+            // Layer flags outlive InitData; a scene holds exactly the layers of its file, so
+            // that saving it again cannot write more layers than its layerCount announces.
+            layer.inUse = 0;
+        }
+    }
+}
+
+template<size_t N>
+void readFilterValues(FieldReader &in, std::array<int16_t, N> &values, std::string_view name)
+{
+    for (size_t i = 0; i < N; ++i) {
+        const std::string field = std::string(name) + "[" + std::to_string(i) + "]";
+        in.number(values[i], field, INT16_MIN, INT16_MAX);
+    }
+}
+
+void readLog(FieldReader &in, Document &doc)
+{
+    AppSettingsRec &app = doc.AppSettings;
+    readFields(in, app, layout::LogCountsLine);
+    readFilterValues(in, app.logTypeFilters, "logTypeFilters");
+    readFilterValues(in, app.logFileFilters, "logFileFilters");
+    readFields(in, app, layout::CustomFilterCountLine);
+    doc.customFilterOverflow = app.customFilterCount;
+    for (int slot = 1; slot <= app.customFilterCount; ++slot) {
+        CustomFilterRec &filter = app.CustomFilters[static_cast<size_t>(slot)];
+        readFields(in, filter, layout::CustomFilterLine);
+        filter.inUse = -1;
+    }
+}
+
+void readApplication(FieldReader &in, AppSettingsRec &app)
+{
+    readFields(in, app, layout::AppLine1);
+    if (app.splashEnabled == 1) {
+        readFields(in, app, layout::AppSplashLine);
+    } else {
+        app.splashEnabled = 0;
+        app.splashWidth = 0;
+        app.splashHeight = 0;
+        app.splashBpp = 0;
+        app.splashTimer = 0;
+        app.splashRed = 0;
+        app.splashGreen = 0;
+        app.splashBlue = 0;
+        app.splashImagePath = "null";
+    }
+    readFields(in, app, layout::AppLine3);
+}
+
+void readDocument(FieldReader &in, Document &doc, ProgressSink &progress)
+{
+    readFields(in, doc.ProjectInfo, layout::ProjectNameLine);
+    readFields(in, doc.ProjectInfo, layout::ProjectPathLine);
+
+    int total = 0;
+    for (Kind kind : ListOrder) {
+        const KindInfo &info = kindInfo(kind);
+        in.number(doc.objectCount(kind), std::string(info.name) + " count", 0, info.lastSlot + 1);
+        total += doc.objectCount(kind);
+    }
+    progress.setMaximum(total);
+
+    progress.setLabel("Loading Application Data...");
+    readApplication(in, doc.AppSettings);
+
+    int done = 0;
+    for (Kind kind : FileOrder) {
+        progress.setLabel(kindInfo(kind).loadLabel);
+        ObjectList &list = doc.list(kind);
+        const int count = doc.objectCount(kind);
+        withTable(doc, kind, [&](auto &table) {
+            for (int slot = 0; slot < count; ++slot) {
+                auto &rec = table[static_cast<size_t>(slot)];
+                readRecord(in, rec);
+                list.lines.push_back({rec.id, static_cast<int16_t>(slot)});
+                rec.inUse = -1;
+                rec.isNew = 0;
+                progress.setValue(++done);
+            }
+        });
+    }
+
+    progress.setLabel("Loading Log Data...");
+    readLog(in, doc);
+}
+
+} // namespace
+
+ProjectReadResult readProject(std::string_view bytes, Document &doc, ProgressSink &progress)
+{
+    if (bytes.empty())
+        return {ProjectReadResult::Status::Empty, 0, {}};
+    FieldReader in(bytes);
+    try {
+        readDocument(in, doc, progress);
+    } catch (Damage &damage) {
+        return {ProjectReadResult::Status::Damaged, damage.line, std::move(damage.message)};
+    }
+    return {};
+}
+
+ProjectReadResult readProject(std::string_view bytes, Document &doc)
+{
+    ProgressSink quiet;
+    return readProject(bytes, doc, quiet);
+}
+
+std::string damageText(std::string_view file, int line, std::string_view message)
+{
+    return joined(file, ":" + std::to_string(line) + ": ", message);
+}
+
+} // namespace vorlane

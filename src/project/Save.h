@@ -1,0 +1,35 @@
+#pragma once
+
+#include "model/ProgressSink.h"
+#include "model/UserInterface.h"
+#include "model/modGlobal.h"
+#include "project/FileOps.h"
+
+#include <string>
+
+namespace vorlane {
+
+// How a Save ended.
+struct SaveResult
+{
+    enum class Status {
+        Written,   // the file holds the project
+        Cancelled, // the user answered No to the warning; nothing was touched
+        Failed     // the file could not be written; the old file is unchanged
+    };
+    Status status = Status::Written;
+    std::string reason; // Failed: the operating system's message
+
+    bool written() const { return status == Status::Written; }
+};
+
+// Save with `ops` for the file calls; see Save.
+SaveResult saveProject(Document &doc, UserInterface &ui, ProgressSink &progress, FileOps &ops);
+
+// The program's Save: asks whether new objects may go, removes them from the lists and writes
+// the project safely to ProjectInfo.projectFilePath, reporting its steps to `progress`. A
+// failed write is shown in a "Save Data" message naming the file and the reason. Returns
+// true when the file was written.
+bool Save(Document &doc, UserInterface &ui, ProgressSink &progress);
+
+} // namespace vorlane
