@@ -26,6 +26,7 @@ struct FileDialogRequest
     std::string filterName;
     std::string pattern;
     std::string proposedName;
+    std::string title; // the dialog's caption
 };
 
 // Questions and choices put to the user. The editor answers them with message boxes and

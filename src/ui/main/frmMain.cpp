@@ -1,0 +1,444 @@
+#include "frmMain.h"
+
+#include "frmAbout.h"
+#include "frmDataProjName.h"
+#include "frmProgress.h"
+#include "generate/GenerateCommands.h"
+#include "model/Kinds.h"
+#include "model/ObjectManagement.h"
+#include "model/QuickStats.h"
+#include "model/Registry.h"
+#include "model/UserInterface.h"
+#include "project/Open.h"
+#include "project/Save.h"
+
+#include <QCloseEvent>
+#include <QCoreApplication>
+#include <QDesktopServices>
+#include <QDir>
+#include <QFileInfo>
+#include <QListWidget>
+#include <QProcess>
+#include <QUrl>
+
+namespace vorlane {
+
+namespace {
+
+constexpr int SlotRole = Qt::UserRole;
+
+QString qs(const std::string &text)
+{
+    return QString::fromStdString(text);
+}
+
+} // namespace
+
+frmMain::frmMain(Document &doc, UserInterface &userInterface, QWidget *parent)
+    : QMainWindow(parent)
+    , m_doc(doc)
+    , m_userInterface(userInterface)
+    , m_openUrl([](const QUrl &url) { return QDesktopServices::openUrl(url); })
+{
+    m_ui.setupUi(this);
+    for (int tab = 0; tab <= TabCount; ++tab)
+        m_tabs[static_cast<size_t>(tab)] =
+            findChild<QFrame *>(QStringLiteral("fraTab_%1").arg(tab));
+    for (int tab = 2; tab <= 10; ++tab) {
+        m_lists[static_cast<size_t>(tab)] =
+            findChild<QListWidget *>(QStringLiteral("lstObjects_%1").arg(tab));
+        m_covers[static_cast<size_t>(tab)] =
+            findChild<QFrame *>(QStringLiteral("fraCover_%1").arg(tab));
+    }
+    // Until a project is open only the "no data" page shows.
+    m_ui.fraAppStats->setVisible(false);
+    setUpTabs();
+    connectHandlers();
+    Form_Load();
+}
+
+frmMain::~frmMain() = default;
+
+void frmMain::setUpTabs()
+{
+    QTabBar *strip = m_ui.DataTabStrip;
+    strip->addTab(QStringLiteral("Application Data"));
+    strip->setTabData(0, QStringLiteral("apptag"));
+    for (Kind kind : ListOrder)
+        strip->addTab(QString::fromUtf8(kindInfo(kind).tabCaption));
+    strip->addTab(QStringLiteral("Error Log Data"));
+    strip->setExpanding(false);
+}
+
+void frmMain::connectHandlers()
+{
+    connect(m_ui.DataTabStrip, &QTabBar::currentChanged, this, [this](int index) {
+        DataTabStrip_Click(index + 1);
+    });
+    for (int tab = 2; tab <= 10; ++tab) {
+        QListWidget *list = objectList(tab);
+        connect(list, &QListWidget::currentRowChanged, this, [this, tab](int row) {
+            if (m_mirroring)
+                return;
+            m_doc.list(kindOfTab(tab)).selected = row;
+            lstObjects_Click(tab);
+        });
+        // A click on the line that is already selected refreshes the statistics too.
+        connect(list, &QListWidget::itemClicked, this, [this, tab, list](QListWidgetItem *item) {
+            m_doc.list(kindOfTab(tab)).selected = list->row(item);
+            lstObjects_Click(tab);
+        });
+        connect(list, &QListWidget::itemDoubleClicked, this, [this, tab](QListWidgetItem *) {
+            lstObjects_DblClick(tab);
+        });
+    }
+    connect(
+        m_ui.txtAppRootFolder, &QLineEdit::textChanged, this, &frmMain::txtAppRootFolder_Change);
+    connect(m_ui.cmdObjAdd, &QPushButton::clicked, this, &frmMain::cmdObjAdd_Click);
+    connect(m_ui.cmdObjEdit, &QPushButton::clicked, this, &frmMain::cmdObjEdit_Click);
+    connect(m_ui.cmdObjRemove, &QPushButton::clicked, this, &frmMain::cmdObjRemove_Click);
+    connect(m_ui.mnuNew, &QAction::triggered, this, &frmMain::mnuNew_Click);
+    connect(m_ui.mnuOpen, &QAction::triggered, this, &frmMain::mnuOpen_Click);
+    connect(m_ui.mnuSave, &QAction::triggered, this, &frmMain::mnuSave_Click);
+    connect(m_ui.mnuSaveAs, &QAction::triggered, this, &frmMain::mnuSaveAs_Click);
+    connect(m_ui.mnuGenData, &QAction::triggered, this, &frmMain::mnuGenData_Click);
+    connect(m_ui.mnuGenDataAs, &QAction::triggered, this, &frmMain::mnuGenDataAs_Click);
+    connect(m_ui.mnuExit, &QAction::triggered, this, &frmMain::mnuExit_Click);
+    connect(m_ui.mnuOnlineHelp, &QAction::triggered, this, &frmMain::mnuOnlineHelp_Click);
+    connect(m_ui.mnuAbout, &QAction::triggered, this, &frmMain::mnuAbout_Click);
+}
+
+void frmMain::Form_Load()
+{
+    m_doc.ProjectInfo.projectOpen = 0;
+}
+
+frmProgress &frmMain::progress()
+{
+    if (!m_progress)
+        m_progress = new frmProgress(this);
+    return *m_progress;
+}
+
+void frmMain::DataTabStrip_Click(int tab)
+{
+    QTabBar *strip = m_ui.DataTabStrip;
+    if (m_doc.ProjectInfo.projectOpen == 0) {
+        // Before a project exists the strip ignores clicks: put the highlight back.
+        const QSignalBlocker blocker(strip);
+        strip->setCurrentIndex(m_currentTab > 0 ? m_currentTab - 1 : 0);
+        return;
+    }
+    if (m_currentTab == 0)
+        m_currentTab = 1;
+    if (tab == m_currentTab)
+        return;
+    tabFrame(tab)->setVisible(true);
+    tabFrame(m_currentTab)->setVisible(false);
+    m_currentTab = tab;
+    if (strip->currentIndex() != tab - 1) {
+        const QSignalBlocker blocker(strip);
+        strip->setCurrentIndex(tab - 1);
+    }
+
+    if (tab == 1 || tab == 11) {
+        m_ui.fraButtons->setVisible(false);
+    } else {
+        m_ui.fraButtons->setVisible(true);
+        m_ui.cmdObjRemove->setEnabled(objectList(tab)->count() >= 1);
+    }
+
+    if (tab == 1) {
+        UpdateAppStats();
+    } else if (tab < 11 && !m_doc.list(kindOfTab(tab)).lines.empty()) {
+        m_doc.list(kindOfTab(tab)).selected = 0;
+        showList(kindOfTab(tab));
+    }
+}
+
+void frmMain::showList(Kind kind)
+{
+    const int tab = tabOf(kind);
+    QListWidget *widget = objectList(tab);
+    const ObjectList &list = m_doc.list(kind);
+    m_mirroring = true;
+    widget->clear();
+    for (const ListLine &line : list.lines) {
+        auto *item = new QListWidgetItem(qs(line.text));
+        item->setData(SlotRole, static_cast<int>(line.slot));
+        widget->addItem(item);
+    }
+    widget->setCurrentRow(list.selected);
+    m_mirroring = false;
+    if (list.selected >= 0)
+        lstObjects_Click(tab);
+}
+
+void frmMain::lstObjects_Click(int index)
+{
+    if (!isObjectTab(index))
+        return;
+    const Kind kind = kindOfTab(index);
+    const ObjectList &list = m_doc.list(kind);
+    if (list.selected < 0 || list.selected >= static_cast<int>(list.lines.size()))
+        return;
+    updateObjectStats(kind, list.lines[static_cast<size_t>(list.selected)].slot);
+}
+
+void frmMain::lstObjects_DblClick(int index)
+{
+    lstObjects_Click(index);
+    cmdObjEdit_Click();
+}
+
+void frmMain::txtAppRootFolder_Change()
+{
+    m_doc.AppSettings.rootFolder = m_ui.txtAppRootFolder->text().toStdString();
+}
+
+void frmMain::setEditor(Kind kind, EditorOpener opener)
+{
+    m_editors[static_cast<size_t>(kindIndex(kind))] = std::move(opener);
+}
+
+void frmMain::applyStats(const QuickStats &stats, QFrame *cover)
+{
+    if (cover)
+        cover->setVisible(stats.cover);
+    for (const StatLabel &label : stats.labels)
+        if (label.caption)
+            setLabelCaption(label.label.c_str(), *label.caption);
+}
+
+void frmMain::UpdateAppStats()
+{
+    applyStats(vorlane::UpdateAppStats(m_doc), nullptr);
+}
+
+void frmMain::updateObjectStats(Kind kind, int slot)
+{
+    applyStats(statsFor(m_doc, kind, slot), coverFrame(tabOf(kind)));
+}
+
+void frmMain::cmdObjAdd_Click()
+{
+    if (!isObjectTab(m_currentTab))
+        return;
+    const Kind kind = kindOfTab(m_currentTab);
+    const AddResult result = addObject(m_doc, kind);
+    if (result.refusal) {
+        m_userInterface.showMessage(*result.refusal);
+        return;
+    }
+    showList(kind);
+    m_ui.cmdObjRemove->setEnabled(true);
+    m_ui.cmdObjEdit->setEnabled(true);
+}
+
+void frmMain::cmdObjEdit_Click()
+{
+    if (!isObjectTab(m_currentTab))
+        return;
+    const Kind kind = kindOfTab(m_currentTab);
+    if (!editObject(m_doc, kind))
+        return;
+    if (const auto &open = m_editors[static_cast<size_t>(kindIndex(kind))])
+        open(*this);
+}
+
+void frmMain::cmdObjRemove_Click()
+{
+    if (!isObjectTab(m_currentTab))
+        return;
+    const Kind kind = kindOfTab(m_currentTab);
+    const RemoveResult result = removeObject(m_doc, kind);
+    if (!result.removed)
+        return;
+    showList(kind);
+    if (result.listEmpty) {
+        m_ui.cmdObjRemove->setEnabled(false);
+        m_ui.cmdObjEdit->setEnabled(true);
+        coverFrame(m_currentTab)->setVisible(true);
+    }
+}
+
+void frmMain::setLabelCaption(const char *labelName, const std::string &caption)
+{
+    if (auto *label = findChild<QLabel *>(QString::fromUtf8(labelName)))
+        label->setText(qs(caption));
+}
+
+void frmMain::projectOpened()
+{
+    m_doc.ProjectInfo.projectOpen = -1;
+    m_ui.mnuSave->setEnabled(true);
+    m_ui.mnuSaveAs->setEnabled(true);
+    m_ui.mnuGenDataAs->setEnabled(true);
+    tabFrame(0)->setVisible(false);
+    tabFrame(1)->setVisible(true);
+    m_ui.fraAppStats->setVisible(true);
+    showCaption();
+}
+
+void frmMain::showCaption()
+{
+    setWindowTitle(QStringLiteral("Vorlane - ") + qs(m_doc.ProjectInfo.projectName));
+}
+
+void frmMain::selectFirstTab()
+{
+    DataTabStrip_Click(1);
+}
+
+void frmMain::mnuNew_Click()
+{
+    if (m_doc.ProjectInfo.projectOpen == -1) {
+        const auto answer =
+            m_userInterface.showMessage({"Save your data? Any unsaved data will be lost!",
+                                         "Save Data",
+                                         MessageIcon::Question,
+                                         MessageButtons::YesNo});
+        if (answer == MessageAnswer::Yes) {
+            if (!m_doc.ProjectInfo.projectFilePath.empty())
+                mnuSave_Click();
+            else
+                mnuSaveAs_Click();
+        }
+    }
+    frmDataProjName dialog(this);
+    if (dialog.exec() != QDialog::Accepted)
+        return;
+    setUpNewProject(m_doc, dialog.name().toStdString());
+    projectOpened();
+    for (Kind kind : ListOrder)
+        showList(kind);
+    selectFirstTab();
+}
+
+void frmMain::listsChanged()
+{
+    for (Kind kind : ListOrder)
+        showList(kind);
+    if (isObjectTab(m_currentTab))
+        m_ui.cmdObjRemove->setEnabled(objectList(m_currentTab)->count() >= 1);
+}
+
+void frmMain::mnuOpen_Click()
+{
+    FileDialogRequest request;
+    request.mode = FileDialogRequest::Mode::Open;
+    request.filterName = "Data Files";
+    request.pattern = "*.dvb";
+    request.title = "Open";
+    const auto path = m_userInterface.chooseFile(request);
+    if (!path)
+        return;
+    const OpenOutcome outcome = Open(m_doc, *path, m_userInterface, progress());
+    m_ui.txtAppRootFolder->setText(qs(m_doc.AppSettings.rootFolder));
+    listsChanged();
+    if (!outcome.opened())
+        return;
+    // A project that was already open keeps its caption: only the first Open of a run sets it.
+    if (outcome.firstProject)
+        projectOpened();
+    selectFirstTab();
+    UpdateAppStats();
+}
+
+void frmMain::mnuSave_Click()
+{
+    if (m_doc.ProjectInfo.projectFilePath.empty()) {
+        mnuSaveAs_Click();
+        return;
+    }
+    Save(m_doc, m_userInterface, progress());
+    listsChanged();
+}
+
+void frmMain::mnuSaveAs_Click()
+{
+    FileDialogRequest request;
+    request.mode = FileDialogRequest::Mode::Save;
+    request.filterName = "Data Files";
+    request.pattern = "*.dvb";
+    request.proposedName = m_doc.ProjectInfo.projectName + ".dvb";
+    request.title = "Save As";
+    const auto path = m_userInterface.chooseFile(request);
+    if (!path)
+        return;
+    m_doc.ProjectInfo.projectFilePath = *path;
+    Save(m_doc, m_userInterface, progress());
+    listsChanged();
+    m_ui.mnuSave->setEnabled(true);
+}
+
+void frmMain::mnuGenDataAs_Click()
+{
+    generateDataAs(m_doc, m_generateState, m_userInterface, progress());
+    listsChanged();
+    // Once a folder has been chosen, Generate Data may run again into it.
+    if (m_generateState.generateAgainAvailable)
+        m_ui.mnuGenData->setEnabled(true);
+}
+
+void frmMain::mnuGenData_Click()
+{
+    if (!m_generateState.generateAgainAvailable)
+        return;
+    generateDataAgain(m_doc, m_generateState, m_userInterface, progress());
+    listsChanged();
+}
+
+void frmMain::mnuExit_Click()
+{
+    close();
+}
+
+void frmMain::closeEvent(QCloseEvent *event)
+{
+    // Form_Unload: a project that was never saved or opened closes without a question.
+    if (!m_doc.ProjectInfo.projectFilePath.empty()) {
+        const auto answer =
+            m_userInterface.showMessage({"Would you like to save your project before exiting?",
+                                         "Save Data",
+                                         MessageIcon::Question,
+                                         MessageButtons::YesNo});
+        if (answer == MessageAnswer::Yes)
+            mnuSave_Click();
+    }
+    event->accept();
+}
+
+QString frmMain::manualPath()
+{
+    const QString besideProgram = QCoreApplication::applicationDirPath() +
+                                  QStringLiteral("/../share/vorlane/manual/index.html");
+    if (QFileInfo::exists(besideProgram))
+        return QFileInfo(besideProgram).canonicalFilePath();
+    return QStringLiteral(VORLANE_DOCS_DIR) + QStringLiteral("/manual/index.html");
+}
+
+void frmMain::mnuOnlineHelp_Click()
+{
+    const QString path = manualPath();
+    if (!QFileInfo::exists(path) || !m_openUrl(QUrl::fromLocalFile(path))) {
+        m_userInterface.showMessage({"Could not open the user manual \"" + path.toStdString() +
+                                         "\": no web browser could be started for it.",
+                                     "Online Help",
+                                     MessageIcon::Exclamation,
+                                     MessageButtons::OK});
+    }
+}
+
+void frmMain::mnuAbout_Click()
+{
+    auto registry = systemRegistry();
+    frmAbout about(
+        m_userInterface,
+        *registry,
+        [](const QString &program) { return QProcess::startDetached(program, {}); },
+        this);
+    about.exec();
+}
+
+} // namespace vorlane

@@ -1,0 +1,105 @@
+#pragma once
+
+#include "generate/GenerateState.h"
+#include "model/modGlobal.h"
+
+#include "ui_frmMain.h"
+
+#include <QMainWindow>
+
+#include <array>
+#include <functional>
+
+class QListWidget;
+
+namespace vorlane {
+
+class UserInterface;
+class frmProgress;
+class Registry;
+struct QuickStats;
+
+// The main window: the tab strip with one page per kind of data, the object lists, the
+// quick statistics, the object buttons and the File and Help menus.
+class frmMain : public QMainWindow
+{
+    Q_OBJECT
+public:
+    static constexpr int TabCount = 11;
+    using EditorOpener = std::function<void(frmMain &)>;
+
+    frmMain(Document &doc, UserInterface &userInterface, QWidget *parent = nullptr);
+    ~frmMain() override;
+
+    // Event handlers.
+    void Form_Load();
+    void DataTabStrip_Click(int tab);
+    void lstObjects_Click(int index);
+    void lstObjects_DblClick(int index);
+    void txtAppRootFolder_Change();
+    void cmdObjAdd_Click();
+    void cmdObjEdit_Click();
+    void cmdObjRemove_Click();
+    void mnuNew_Click();
+    void mnuOpen_Click();
+    void mnuSave_Click();
+    void mnuSaveAs_Click();
+    void mnuGenData_Click();
+    void mnuGenDataAs_Click();
+    void mnuExit_Click();
+    void mnuOnlineHelp_Click();
+    void mnuAbout_Click();
+
+    void UpdateAppStats();
+    void updateObjectStats(Kind kind, int slot);
+
+    // Shows the document's list of `kind` again, with its selection; selecting a line
+    // refreshes the quick statistics as a click would.
+    void showList(Kind kind);
+
+    // The editor opened by Edit for `kind`; without one, Edit only sets the index.
+    void setEditor(Kind kind, EditorOpener opener);
+
+    Document &document() { return m_doc; }
+    UserInterface &userInterface() { return m_userInterface; }
+    frmProgress &progress();
+    int currentTab() const { return m_currentTab; }
+    QListWidget *objectList(int tab) const { return m_lists[static_cast<size_t>(tab)]; }
+    QFrame *tabFrame(int tab) const { return m_tabs[static_cast<size_t>(tab)]; }
+    QFrame *coverFrame(int tab) const { return m_covers[static_cast<size_t>(tab)]; }
+    const Ui::frmMain &form() const { return m_ui; }
+
+    // How Online Help opens a page; replaced in tests.
+    void setUrlOpener(std::function<bool(const QUrl &)> opener) { m_openUrl = std::move(opener); }
+    // The manual's first page.
+    static QString manualPath();
+
+protected:
+    void closeEvent(QCloseEvent *event) override;
+
+private:
+    void connectHandlers();
+    void setUpTabs();
+    void projectOpened();
+    void showCaption();
+    void applyStats(const QuickStats &stats, QFrame *cover);
+    void setLabelCaption(const char *labelName, const std::string &caption);
+    void selectFirstTab();
+    // Shows every list again after Open, Save or Generate changed them.
+    void listsChanged();
+
+    Ui::frmMain m_ui;
+    Document &m_doc;
+    UserInterface &m_userInterface;
+    frmProgress *m_progress = nullptr;
+    int m_currentTab = 0;
+    bool m_mirroring = false;
+    std::array<QListWidget *, TabCount + 1> m_lists{};
+    std::array<QFrame *, TabCount + 1> m_tabs{};
+    std::array<QFrame *, TabCount + 1> m_covers{};
+    std::array<EditorOpener, KindCount> m_editors;
+    std::function<bool(const QUrl &)> m_openUrl;
+    GenerateState m_generateState;
+};
+
+} // namespace vorlane
