@@ -100,7 +100,11 @@ private:
             ++m_line;
             return;
         }
-        if (*m_pos == '\r' && m_pos + 1 != m_end && m_pos[1] == '\n') {
+        if (*m_pos == '\r' && m_pos + 1 == m_end) { // the last line end, cut short
+            ++m_pos;
+            return;
+        }
+        if (*m_pos == '\r' && m_pos[1] == '\n') {
             m_pos += 2;
             ++m_line;
             return;

@@ -179,4 +179,72 @@ inline std::vector<std::string> joinLines(std::initializer_list<std::vector<std:
     return lines;
 }
 
+// A small project touching every kind of line the reader knows. Lines: 1 name, 2 paths,
+// 3-11 counts, 12-14 application, 15-16 buttons (the second a hot spot), 17 image, 18 cursor,
+// 19 text, 20 font, 21 music, 22 sound effect, 23-27 sprite with one animation of two frames,
+// 28-29 scene with one layer, 30-49 log, 50-51 custom filters.
+inline const std::vector<std::string> &smallProjectLines()
+{
+    static const std::vector<std::string> lines = [] {
+        const std::string text = R"("Small"
+"/p/small.dvb","/p/out"
+2
+1
+1
+1
+1
+1
+1
+1
+1
+"root","caption","icon",800,600,32,2,60,1
+640,480,16,"splash.bmp",3,4,5,6
+44100,8,1,-1,"log.txt"
+"btn",10,20,"cur",1,4,1,3,2,"tpl",5,6,"icon","cap",1,0,1,"su","sd","so","sx"
+"_hot",-1,-2,"cur",7,30,40
+"img","a.bmp",1,2,3,4,5,6,7,8,9,10
+"cur","img",3
+"Hi, there","txt","fnt",1,2,3,4,5,6,7,8,9,"sel",10,11,12,13,14,15,16,17,18,19,20
+"fnt","f.ttf"
+"mus","m.ogg",1,2,3
+"sfx","s.wav",4,5,6
+"spr","img","walk",7,8,1,1
+"walk",2
+3
+4
+100,200,1,1,-1,-1
+"scn",1,0,1
+"img",3
+2,3
+1
+0
+1
+0
+0
+0
+1
+1
+1
+0
+0
+0
+0
+0
+0
+0
+0
+0
+2
+"first"
+"second"
+)";
+        std::vector<std::string> split;
+        size_t start = 0;
+        for (size_t end; (end = text.find('\n', start)) != std::string::npos; start = end + 1)
+            split.push_back(text.substr(start, end - start));
+        return split;
+    }();
+    return lines;
+}
+
 } // namespace vorlane::testsupport
