@@ -14,18 +14,17 @@ bool isSet(int16_t flag)
     return flag == -1;
 }
 
-// Measures the bytes `write` produces, makes room for them at the end of `out` and writes
-// them there in one pass, without growing the buffer field by field.
+// Measures the bytes `write` produces, makes room for them and writes them in one pass,
+// without growing the buffer field by field.
 template<class Write>
-void appendLines(std::string &out, const Write &write)
+std::string_view writeLines(EngineBuffer &buffer, const Write &write)
 {
     EngineLineSize size;
     write(size);
-    const std::size_t start = out.size();
-    out.resize(start + size.size());
-    EngineLine line(out.data() + start);
+    char *start = buffer.room(size.size());
+    EngineLine line(start);
     write(line);
-    out.resize(static_cast<std::size_t>(line.position() - out.data()));
+    return {start, static_cast<std::size_t>(line.position() - start)};
 }
 
 template<class Line>
@@ -128,6 +127,21 @@ void writeRecord(Line &line, const MusicRec &m)
         .end();
 }
 
+// One line per used frame slot, its cell alone.
+template<class Line>
+void writeFrames(Line &line, const std::array<FrameRec, SubSlotCount> &frames)
+{
+    if constexpr (Line::writes) {
+        for (const FrameRec &frame : frames)
+            if (isSet(frame.inUse))
+                line.number(frame.cell).end();
+    } else {
+        // Measured as if every slot were used: a maximal project has two million frames, and
+        // scanning them twice would cost more than the few bytes this leaves unused.
+        line.numberLines(frames.size());
+    }
+}
+
 template<class Line>
 void writeRecord(Line &line, const SpriteRec &s)
 {
@@ -145,11 +159,8 @@ void writeRecord(Line &line, const SpriteRec &s)
         if (!isSet(anim.inUse))
             continue;
         line.text(anim.id).number(anim.frameCount).end();
-        if (anim.frameCount > 0) {
-            for (const FrameRec &frame : anim.frames)
-                if (isSet(frame.inUse))
-                    line.number(frame.cell).end();
-        }
+        if (anim.frameCount > 0)
+            writeFrames(line, anim.frames);
         line.number(anim.frameDelay)
             .number(anim.animDelay)
             .number(anim.repeat)
@@ -190,9 +201,10 @@ void writeObjects(Line &line,
 
 } // namespace
 
-void appendAppCfg(std::string &out, const AppSettingsRec &a, std::string_view dataFolderRel)
+std::string_view
+writeAppCfg(EngineBuffer &buffer, const AppSettingsRec &a, std::string_view dataFolderRel)
 {
-    appendLines(out, [&](auto &line) {
+    return writeLines(buffer, [&](auto &line) {
         line.starred(dataFolderRel)
             .starred(a.windowCaption)
             .starred(a.windowIcon)
@@ -223,9 +235,9 @@ void appendAppCfg(std::string &out, const AppSettingsRec &a, std::string_view da
     });
 }
 
-void appendLogCfg(std::string &out, const AppSettingsRec &a)
+std::string_view writeLogCfg(EngineBuffer &buffer, const AppSettingsRec &a)
 {
-    appendLines(out, [&](auto &line) {
+    return writeLines(buffer, [&](auto &line) {
         // The counts are written as stored, not recounted from the check values.
         line.number(a.logTypeFilterCount).end();
         for (std::size_t i = 0; i < LogTypePrefixes.size(); ++i)
@@ -243,36 +255,34 @@ void appendLogCfg(std::string &out, const AppSettingsRec &a)
     });
 }
 
-void appendDataFile(std::string &out,
-                    const Document &doc,
-                    Kind kind,
-                    const RecordWritten &recordWritten)
+std::string_view writeDataFile(EngineBuffer &buffer,
+                               const Document &doc,
+                               Kind kind,
+                               const RecordWritten &recordWritten)
 {
     const ObjectList &list = doc.list(kind);
-    withTable(doc, kind, [&](const auto &table) {
-        appendLines(out, [&](auto &line) { writeObjects(line, list, table, recordWritten); });
+    return withTable(doc, kind, [&](const auto &table) {
+        return writeLines(buffer,
+                          [&](auto &line) { writeObjects(line, list, table, recordWritten); });
     });
 }
 
 std::string appCfg(const AppSettingsRec &settings, std::string_view dataFolderRel)
 {
-    std::string out;
-    appendAppCfg(out, settings, dataFolderRel);
-    return out;
+    EngineBuffer buffer;
+    return std::string(writeAppCfg(buffer, settings, dataFolderRel));
 }
 
 std::string logCfg(const AppSettingsRec &settings)
 {
-    std::string out;
-    appendLogCfg(out, settings);
-    return out;
+    EngineBuffer buffer;
+    return std::string(writeLogCfg(buffer, settings));
 }
 
 std::string dataFile(const Document &doc, Kind kind)
 {
-    std::string out;
-    appendDataFile(out, doc, kind);
-    return out;
+    EngineBuffer buffer;
+    return std::string(writeDataFile(buffer, doc, kind));
 }
 
 std::string buttonDat(const Document &doc)

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "generate/EngineBuffer.h"
 #include "model/modGlobal.h"
 
 #include <functional>
@@ -11,15 +12,18 @@ namespace vorlane {
 // Called after each object record written to an engine data file.
 using RecordWritten = std::function<void()>;
 
-// Appends the bytes of app.cfg; `dataFolderRel` is the output folder relative to the root.
-void appendAppCfg(std::string &out, const AppSettingsRec &settings, std::string_view dataFolderRel);
-// Appends the bytes of log.cfg.
-void appendLogCfg(std::string &out, const AppSettingsRec &settings);
-// Appends the bytes of the engine data file of `kind`, its objects in list order.
-void appendDataFile(std::string &out,
-                    const Document &doc,
-                    Kind kind,
-                    const RecordWritten &recordWritten = {});
+// Writes the bytes of app.cfg into `buffer` and returns them; `dataFolderRel` is the output
+// folder relative to the application root folder.
+std::string_view
+writeAppCfg(EngineBuffer &buffer, const AppSettingsRec &settings, std::string_view dataFolderRel);
+// Writes the bytes of log.cfg into `buffer` and returns them.
+std::string_view writeLogCfg(EngineBuffer &buffer, const AppSettingsRec &settings);
+// Writes the bytes of the engine data file of `kind` into `buffer`, its objects in list
+// order, and returns them.
+std::string_view writeDataFile(EngineBuffer &buffer,
+                               const Document &doc,
+                               Kind kind,
+                               const RecordWritten &recordWritten = {});
 
 // The bytes of each engine file (Windows-1252, CR LF).
 std::string appCfg(const AppSettingsRec &settings, std::string_view dataFolderRel);

@@ -2,73 +2,51 @@
 
 #include "model/Cp1252.h"
 
-#include <charconv>
-#include <cstring>
+#include <array>
 #include <string>
 
 namespace vorlane {
 
-void EngineLine::put(std::string_view utf8)
+namespace {
+
+constexpr std::array<EngineLine::SmallNumber, EngineLine::SmallNumbers> makeSmallNumbers()
 {
-    // Plain ASCII is by far the common case and needs no conversion.
-    for (const char c : utf8) {
-        if (static_cast<unsigned char>(c) >= 0x80) {
-            // One scratch buffer per thread, so converting allocates only when it grows.
-            static thread_local std::string converted;
-            converted.clear();
-            appendCp1252(converted, utf8);
-            std::memcpy(m_pos, converted.data(), converted.size());
-            m_pos += converted.size();
-            return;
-        }
+    std::array<EngineLine::SmallNumber, EngineLine::SmallNumbers> table{};
+    for (uint32_t value = 0; value < EngineLine::SmallNumbers; ++value) {
+        char reversed[4] = {};
+        uint32_t length = 0;
+        uint32_t rest = value;
+        do {
+            reversed[length++] = static_cast<char>('0' + rest % 10);
+            rest /= 10;
+        } while (rest != 0);
+        auto &entry = table[value];
+        for (uint32_t k = 0; k < 4; ++k)
+            entry.text[k] = k < length ? reversed[length - 1 - k] : ' ';
+        entry.length = length;
     }
-    if (!utf8.empty())
-        std::memcpy(m_pos, utf8.data(), utf8.size());
-    m_pos += utf8.size();
+    return table;
 }
 
-EngineLine &EngineLine::number(int32_t value)
-{
-    separate();
-    if (value >= 0)
-        *m_pos++ = ' ';
-    // to_chars writes the minus sign itself, in the place of the blank.
-    m_pos = std::to_chars(m_pos, m_pos + 11, value).ptr;
-    return *this;
-}
+constexpr auto Table = makeSmallNumbers();
+static_assert(Table[0].text[0] == '0' && Table[0].length == 1);
+static_assert(Table[9999].text[3] == '9' && Table[9999].length == 4);
+static_assert(Table[407].text[0] == '4' && Table[407].text[2] == '7' && Table[407].length == 3);
 
-EngineLine &EngineLine::text(std::string_view utf8)
-{
-    separate();
-    put(utf8);
-    return *this;
-}
+} // namespace
 
-EngineLine &EngineLine::starred(std::string_view utf8)
-{
-    separate();
-    put(utf8);
-    *m_pos++ = '*';
-    *m_pos++ = ' ';
-    m_separate = false;
-    return *this;
-}
+// Built by the compiler: nothing runs at start-up.
+const std::array<EngineLine::SmallNumber, EngineLine::SmallNumbers> EngineLine::SmallNumberTable =
+    Table;
 
-void EngineLine::endStarred(std::string_view utf8)
+char *EngineLine::putConverted(char *p, std::string_view utf8)
 {
-    separate();
-    put(utf8);
-    *m_pos++ = '*';
-    end();
-}
-
-void EngineLine::countLine(std::size_t count)
-{
-    if (count == 0)
-        *m_pos++ = '0';
-    else
-        number(static_cast<int32_t>(count));
-    end();
+    // One scratch buffer per thread, so converting allocates only when it grows.
+    static thread_local std::string converted;
+    converted.clear();
+    appendCp1252(converted, utf8);
+    std::memcpy(p, converted.data(), converted.size());
+    return p + converted.size();
 }
 
 } // namespace vorlane

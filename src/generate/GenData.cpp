@@ -43,8 +43,9 @@ GenData(Document &doc, std::string_view dataFolderRel, ProgressSink &progress, F
     progress.setMaximum(maximum);
 
     const std::string &folder = doc.ProjectInfo.generatePath;
-    std::string bytes; // one buffer for all files: each starts where the last one's capacity is
-    const auto write = [&](std::string_view name) -> std::optional<GenerateFailure> {
+    EngineBuffer buffer; // one buffer for all files
+    const auto write = [&](std::string_view name,
+                           std::string_view bytes) -> std::optional<GenerateFailure> {
         std::string path = folder;
         path.append(name);
         if (auto reason = files.writeFile(path, bytes))
@@ -53,8 +54,7 @@ GenData(Document &doc, std::string_view dataFolderRel, ProgressSink &progress, F
     };
 
     progress.setLabel("Generating Application Data...");
-    appendAppCfg(bytes, doc.AppSettings, dataFolderRel);
-    if (auto failure = write(AppCfgName))
+    if (auto failure = write(AppCfgName, writeAppCfg(buffer, doc.AppSettings, dataFolderRel)))
         return failure;
     int value = 1;
     progress.setValue(value);
@@ -65,16 +65,12 @@ GenData(Document &doc, std::string_view dataFolderRel, ProgressSink &progress, F
     for (Kind kind : FileOrder) {
         const KindInfo &info = kindInfo(kind);
         progress.setLabel(info.generateLabel);
-        bytes.clear();
-        appendDataFile(bytes, doc, kind, step);
-        if (auto failure = write(info.dataFile))
+        if (auto failure = write(info.dataFile, writeDataFile(buffer, doc, kind, step)))
             return failure;
     }
 
     progress.setLabel("Generating Log Data...");
-    bytes.clear();
-    appendLogCfg(bytes, doc.AppSettings);
-    if (auto failure = write(LogCfgName))
+    if (auto failure = write(LogCfgName, writeLogCfg(buffer, doc.AppSettings)))
         return failure;
     progress.setValue(maximum);
     return std::nullopt;

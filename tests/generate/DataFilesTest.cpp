@@ -316,10 +316,51 @@ TEST_F(DataFiles, RecordCallbackRunsOncePerObject)
     for (int16_t slot = 0; slot < 4; ++slot)
         addObject(*doc, Kind::Sprite, doc->Sprites, slot, "s" + std::to_string(slot));
     int records = 0;
-    std::string out = "kept";
-    appendDataFile(out, *doc, Kind::Sprite, [&] { ++records; });
+    EngineBuffer buffer;
+    const std::string_view bytes = writeDataFile(buffer, *doc, Kind::Sprite, [&] { ++records; });
     EXPECT_EQ(records, 4);
-    EXPECT_EQ(out.substr(0, 9), "kept 4\r\ns");
+    EXPECT_EQ(bytes.substr(0, 7), " 4\r\ns0 ");
+}
+
+TEST_F(DataFiles, BufferIsReusedForTheNextFile)
+{
+    addObject(*doc, Kind::Font, doc->Fonts, 0, "fntA").path = "a.ttf";
+    EngineBuffer buffer;
+    EXPECT_EQ(writeDataFile(buffer, *doc, Kind::Scene), "0\r\n");
+    EXPECT_EQ(writeDataFile(buffer, *doc, Kind::Font), " 1\r\nfntA a.ttf\r\n");
+    EXPECT_EQ(writeDataFile(buffer, *doc, Kind::Music), "0\r\n");
+}
+
+TEST_F(DataFiles, FullSpriteTableWithWidestNumbers)
+{
+    // Every sprite, animation and frame slot used, every number as wide as it gets.
+    for (int16_t slot = 0; slot <= 200; ++slot) {
+        auto &s = addObject(*doc, Kind::Sprite, doc->Sprites, slot, "s");
+        s.imageId = s.currentAnimId = "i";
+        s.positionX = s.positionY = s.visible = -32768;
+        s.animCount = 101;
+        for (auto &a : s.anims) {
+            a.inUse = -1;
+            a.id = "a";
+            a.frameCount = 101;
+            for (auto &f : a.frames)
+                f = {-1, -32768};
+            a.frameDelay = a.animDelay = a.repeat = a.play = a.direction = a.defaultFrame = -32768;
+        }
+    }
+    EngineBuffer buffer;
+    const std::string_view bytes = writeDataFile(buffer, *doc, Kind::Sprite);
+    const std::string animation = "a  101\r\n" + [] {
+        std::string frames;
+        for (int i = 0; i < 101; ++i)
+            frames += "-32768\r\n";
+        return frames;
+    }() + "-32768 -32768 -32768 -32768 -32768 -32768\r\n";
+    const std::string sprite = "s i i -32768 -32768 -32768  101\r\n";
+    ASSERT_EQ(bytes.size(), 6 + 201 * (sprite.size() + 101 * animation.size()));
+    EXPECT_EQ(bytes.substr(0, 6 + sprite.size() + animation.size()),
+              " 201\r\n" + sprite + animation);
+    EXPECT_EQ(bytes.substr(bytes.size() - animation.size()), animation);
 }
 
 TEST_F(DataFiles, ListLineOutsideTheTableIsRefused)

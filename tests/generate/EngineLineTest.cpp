@@ -3,23 +3,25 @@
 
 #include <gtest/gtest.h>
 
+#include <memory>
 #include <string>
 
 namespace vorlane {
 namespace {
 
-// Writes with `write` into a buffer measured by the same calls, as the file writers do.
+// Writes with `write` into a buffer of exactly the measured size, as the file writers do; the
+// address sanitizer catches any byte stored past it.
 template<class Write>
 std::string lines(const Write &write)
 {
     EngineLineSize size;
     write(size);
-    std::string out(size.size(), '#');
-    EngineLine line(out.data());
+    const auto buffer = std::make_unique_for_overwrite<char[]>(size.size());
+    EngineLine line(buffer.get());
     write(line);
-    EXPECT_LE(static_cast<std::size_t>(line.position() - out.data()), size.size());
-    out.resize(static_cast<std::size_t>(line.position() - out.data()));
-    return out;
+    const auto length = static_cast<std::size_t>(line.position() - buffer.get());
+    EXPECT_LE(length, size.size());
+    return std::string(buffer.get(), length);
 }
 
 TEST(EngineLine, PositiveAndZeroNumbersCarryALeadingBlank)
@@ -39,6 +41,26 @@ TEST(EngineLine, NegativeNumberStandsDirectlyAfterTheSeparator)
     EXPECT_EQ(lines([](auto &l) { l.number(-32768).end(); }), "-32768\r\n");
     EXPECT_EQ(lines([](auto &l) { l.number(-2147483647 - 1).number(2147483647).end(); }),
               "-2147483648  2147483647\r\n");
+}
+
+TEST(EngineLine, EveryDigitCount)
+{
+    EXPECT_EQ(lines([](auto &l) { l.number(9).number(10).number(99).number(100).end(); }),
+              " 9  10  99  100\r\n");
+    EXPECT_EQ(lines([](auto &l) { l.number(999).number(1000).number(9999).number(10000).end(); }),
+              " 999  1000  9999  10000\r\n");
+    EXPECT_EQ(lines([](auto &l) { l.number(32767).number(-9999).number(-10000).end(); }),
+              " 32767 -9999 -10000\r\n");
+    EXPECT_EQ(lines([](auto &l) { l.number(44100).number(1234567).number(-7).end(); }),
+              " 44100  1234567 -7\r\n");
+}
+
+TEST(EngineLine, ShortNumbersAtTheEndOfTheBuffer)
+{
+    // Each is the last item measured, so the buffer ends right after its room.
+    EXPECT_EQ(lines([](auto &l) { l.number(1); }), " 1");
+    EXPECT_EQ(lines([](auto &l) { l.number(-5); }), "-5");
+    EXPECT_EQ(lines([](auto &l) { l.text("a").number(7); }), "a  7");
 }
 
 TEST(EngineLine, TextsStandAsTheyAreJoinedByOneBlank)
