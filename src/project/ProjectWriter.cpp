@@ -5,6 +5,7 @@
 #include "project/ProjectLayout.h"
 
 #include <algorithm>
+#include <array>
 #include <charconv>
 #include <cstring>
 #include <string_view>
@@ -14,12 +15,30 @@ namespace vorlane {
 
 namespace {
 
+// The digits of 0..999 and their number, the last of the four bytes: flags, cells and colours
+// are written by one copy each.
+constexpr auto SmallNumbers = [] {
+    std::array<std::array<char, 4>, 1000> table{};
+    for (int value = 0; value < 1000; ++value) {
+        auto &entry = table[static_cast<size_t>(value)];
+        const int digits = value < 10 ? 1 : value < 100 ? 2 : 3;
+        for (int i = digits - 1, rest = value; i >= 0; --i, rest /= 10)
+            entry[static_cast<size_t>(i)] = static_cast<char>('0' + rest % 10);
+        entry[3] = static_cast<char>(digits);
+    }
+    return table;
+}();
+
 // Builds the whole file in one buffer. Every write claims its room first and then fills it
 // through a pointer, so writing a field never allocates.
 class LineWriter
 {
 public:
-    LineWriter() { m_buf.resize(64 * 1024); }
+    explicit LineWriter(size_t expectedSize)
+        : m_buf(expectedSize, '\0')
+        , m_cur(m_buf.data())
+        , m_limit(m_buf.data() + m_buf.size())
+    {}
 
     void text(std::string_view utf8)
     {
@@ -38,19 +57,25 @@ public:
             p += m_scratch.size();
         }
         *p++ = '"';
-        m_used = static_cast<size_t>(p - m_buf.data());
+        m_cur = p;
     }
 
     void number(int32_t value)
     {
         char *p = room(11); // "-2147483648"
-        m_used += static_cast<size_t>(std::to_chars(p, p + 11, value).ptr - p);
+        if (static_cast<uint32_t>(value) < SmallNumbers.size()) {
+            const auto &digits = SmallNumbers[static_cast<size_t>(value)];
+            std::memcpy(p, digits.data(), digits.size());
+            m_cur = p + digits[3];
+        } else {
+            m_cur = std::to_chars(p, p + 11, value).ptr;
+        }
     }
 
     void comma()
     {
         *room(1) = ',';
-        ++m_used;
+        ++m_cur;
     }
 
     void endLine()
@@ -58,27 +83,54 @@ public:
         char *p = room(2);
         p[0] = '\r';
         p[1] = '\n';
-        m_used += 2;
+        m_cur = p + 2;
     }
 
     std::string take()
     {
-        m_buf.resize(m_used);
+        m_buf.resize(static_cast<size_t>(m_cur - m_buf.data()));
         return std::move(m_buf);
     }
 
 private:
     char *room(size_t size)
     {
-        if (m_buf.size() - m_used < size)
-            m_buf.resize(std::max(m_buf.size() * 2, m_used + size));
-        return m_buf.data() + m_used;
+        if (static_cast<size_t>(m_limit - m_cur) < size)
+            grow(size);
+        return m_cur;
     }
 
-    std::string m_buf; // m_used bytes are written; the rest is room
-    size_t m_used = 0;
+    void grow(size_t size)
+    {
+        const size_t used = static_cast<size_t>(m_cur - m_buf.data());
+        m_buf.resize(std::max(m_buf.size() * 2, used + size));
+        m_cur = m_buf.data() + used;
+        m_limit = m_buf.data() + m_buf.size();
+    }
+
+    std::string m_buf; // written up to m_cur; the rest is room
+    char *m_cur = nullptr;
+    char *m_limit = nullptr;
     std::string m_scratch;
 };
+
+// A fair guess at the file's size, so that its buffer rarely needs to grow: the sprites'
+// frames make up most of a large project.
+size_t expectedSize(const Document &doc)
+{
+    size_t size = 4096;
+    for (const ObjectList &list : doc.lists)
+        size += list.lines.size() * 256;
+    for (const ListLine &line : doc.list(Kind::Sprite).lines) {
+        const SpriteRec &sprite = doc.Sprites.at(static_cast<size_t>(line.slot));
+        if (sprite.animCount <= 0)
+            continue;
+        for (const AnimRec &anim : sprite.anims)
+            if (anim.inUse == -1)
+                size += 64 + static_cast<size_t>(std::max<int>(anim.frameCount, 0)) * 6;
+    }
+    return size;
+}
 
 template<class Rec, class R>
 void writeField(LineWriter &out, const Rec &rec, const layout::TextField<R> &field)
@@ -198,7 +250,7 @@ void writeLog(LineWriter &out, const AppSettingsRec &app)
 
 std::string projectFileBytes(const Document &doc, ProgressSink &progress)
 {
-    LineWriter out;
+    LineWriter out(expectedSize(doc));
     writeLine(out, doc.ProjectInfo, layout::ProjectNameLine);
     writeLine(out, doc.ProjectInfo, layout::ProjectPathLine);
 

@@ -1,0 +1,287 @@
+#include "project/ProjectCheck.h"
+
+#include "model/Kinds.h"
+#include "project/ProjectLayout.h"
+
+#include <array>
+#include <optional>
+#include <unordered_set>
+
+namespace vorlane {
+
+namespace {
+
+// The kinds as the problem lines name them.
+constexpr std::array<const char *, KindCount> KindNames{
+    "button", "cursor", "image", "text", "font", "music track", "sound effect", "sprite", "scene"};
+
+const char *nameOf(Kind kind)
+{
+    return KindNames[static_cast<size_t>(kindIndex(kind))];
+}
+
+// The object kinds of scene layers, by objectKind 1..5.
+constexpr std::array<Kind, 5> LayerKinds{
+    Kind::Text, Kind::Sprite, Kind::Image, Kind::Button, Kind::Music};
+
+constexpr std::string_view Null = "null";
+
+// A text the engine files hold bare, ended by the next blank: a path, or a reference to an
+// object of `target`.
+template<class Rec>
+struct BareField
+{
+    const char *name;
+    std::string Rec::*member;
+    std::optional<Kind> target;
+};
+
+// The button fields that both button lines carry come first: a hot spot (an id beginning
+// with "_") is written with the cursor only.
+constexpr std::array<BareField<ButtonRec>, 8> ButtonFields{{
+    {"cursorId", &ButtonRec::cursorId, Kind::Cursor},
+    {"templateId", &ButtonRec::templateId, Kind::Image},
+    {"iconId", &ButtonRec::iconId, Kind::Image},
+    {"captionTextId", &ButtonRec::captionTextId, Kind::Text},
+    {"soundUp", &ButtonRec::soundUp, Kind::SFX},
+    {"soundDown", &ButtonRec::soundDown, Kind::SFX},
+    {"soundOver", &ButtonRec::soundOver, Kind::SFX},
+    {"soundDisabled", &ButtonRec::soundDisabled, Kind::SFX},
+}};
+constexpr size_t HotSpotFieldCount = 1;
+
+constexpr std::array<BareField<ImageRec>, 1> ImageFields{{{"path", &ImageRec::path, {}}}};
+constexpr std::array<BareField<CursorRec>, 1> CursorFields{
+    {{"imageId", &CursorRec::imageId, Kind::Image}}};
+constexpr std::array<BareField<TextRec>, 2> TextFields{{
+    {"fontId", &TextRec::fontId, Kind::Font},
+    {"selectionImageId", &TextRec::selectionImageId, Kind::Image},
+}};
+constexpr std::array<BareField<FontRec>, 1> FontFields{{{"path", &FontRec::path, {}}}};
+constexpr std::array<BareField<MusicRec>, 1> MusicFields{{{"path", &MusicRec::path, {}}}};
+constexpr std::array<BareField<SpriteRec>, 1> SpriteFields{
+    {{"imageId", &SpriteRec::imageId, Kind::Image}}};
+
+bool holdsBlank(std::string_view text)
+{
+    return text.find_first_of(" \t") != std::string_view::npos;
+}
+
+std::string quoted(std::string_view text)
+{
+    std::string out;
+    out.reserve(text.size() + 2);
+    out.append(1, '"').append(text).append(1, '"');
+    return out;
+}
+
+class Checker
+{
+public:
+    Checker(const Document &doc, std::string_view file)
+        : m_doc(doc)
+        , m_file(file)
+    {
+        for (Kind kind : ListOrder)
+            forEachListed(kind, [&](const auto &rec) { m_ids[index(kind)].insert(rec.id); });
+    }
+
+    std::vector<std::string> run()
+    {
+        checkApplication();
+        for (Kind kind : FileOrder) {
+            std::unordered_set<std::string_view> seen;
+            forEachListed(kind, [&](const auto &rec) {
+                m_subject = std::string(nameOf(kind)) + " " + quoted(rec.id);
+                checkId(kind, rec.id, seen);
+                checkRecord(rec);
+            });
+        }
+        checkCustomFilters();
+        return std::move(m_problems);
+    }
+
+private:
+    static size_t index(Kind kind) { return static_cast<size_t>(kindIndex(kind)); }
+
+    // Calls `f` with the record of every line of the list of `kind`, in list order, leaving
+    // out new objects and lines whose slot lies outside the table.
+    template<class F>
+    void forEachListed(Kind kind, F &&f) const
+    {
+        withTable(m_doc, kind, [&](const auto &table) {
+            for (const ListLine &line : m_doc.list(kind).lines) {
+                if (!slotInTable(kind, line.slot))
+                    continue;
+                const auto &rec = table[static_cast<size_t>(line.slot)];
+                if (rec.isNew != -1)
+                    f(rec);
+            }
+        });
+    }
+
+    void report(const std::string &problem)
+    {
+        std::string line;
+        line.reserve(m_file.size() + m_subject.size() + problem.size() + 4);
+        line.append(m_file).append(": ").append(m_subject).append(": ").append(problem);
+        m_problems.push_back(std::move(line));
+    }
+
+    void checkId(Kind kind, const std::string &id, std::unordered_set<std::string_view> &seen)
+    {
+        if (id.empty())
+            report("id is empty, which the engine cannot read");
+        else if (holdsBlank(id))
+            report("id holds a blank, which the engine reads as a separator");
+        if (!seen.insert(id).second)
+            report(std::string("id is also used by an earlier ") + nameOf(kind));
+    }
+
+    // A text written bare: it must neither be empty nor hold a blank.
+    void checkBare(const std::string &name, std::string_view value)
+    {
+        if (value.empty()) {
+            report(name + " is empty, which the engine cannot read");
+        } else if (holdsBlank(value)) {
+            report(name + " " + quoted(value) +
+                   " holds a blank, which the engine reads as a separator");
+        }
+    }
+
+    // A reference: "null" or the id of a listed object of `target`.
+    void checkReference(const std::string &name, std::string_view value, Kind target)
+    {
+        if (value == Null)
+            return;
+        // An empty reference is reported as empty only: no object is meant by it.
+        checkBare(name, value);
+        if (!value.empty() && !m_ids[index(target)].contains(value))
+            report(name + " " + quoted(value) + " names no " + nameOf(target));
+    }
+
+    // A text the engine reads up to a "*".
+    void checkStarred(const std::string &name, std::string_view value)
+    {
+        if (value.find('*') != std::string_view::npos)
+            report(name + " holds \"*\", which the engine reads as the end of the text");
+    }
+
+    template<class Rec, size_t N>
+    void checkFields(const Rec &rec, const std::array<BareField<Rec>, N> &fields, size_t count = N)
+    {
+        for (size_t i = 0; i < count; ++i) {
+            const BareField<Rec> &field = fields[i];
+            if (field.target)
+                checkReference(field.name, rec.*field.member, *field.target);
+            else
+                checkBare(field.name, rec.*field.member);
+        }
+    }
+
+    void checkRecord(const ButtonRec &button)
+    {
+        checkFields(button,
+                    ButtonFields,
+                    layout::isHotSpotId(button.id) ? HotSpotFieldCount : ButtonFields.size());
+    }
+    void checkRecord(const ImageRec &image) { checkFields(image, ImageFields); }
+    void checkRecord(const CursorRec &cursor) { checkFields(cursor, CursorFields); }
+    void checkRecord(const TextRec &text)
+    {
+        checkStarred("content", text.content);
+        checkFields(text, TextFields);
+    }
+    void checkRecord(const FontRec &font) { checkFields(font, FontFields); }
+    void checkRecord(const MusicRec &music) { checkFields(music, MusicFields); }
+
+    // Animations are numbered from 1 in slot order among the used ones, as the file has them;
+    // they are written only when animCount is above 0.
+    void checkRecord(const SpriteRec &sprite)
+    {
+        checkFields(sprite, SpriteFields);
+        bool currentFound = false;
+        if (sprite.animCount > 0) {
+            int number = 0;
+            for (const AnimRec &anim : sprite.anims) {
+                if (anim.inUse != -1)
+                    continue;
+                checkBare("animation " + std::to_string(++number) + " id", anim.id);
+                currentFound = currentFound || anim.id == sprite.currentAnimId;
+            }
+        }
+        if (sprite.currentAnimId == Null)
+            return;
+        checkBare("currentAnimId", sprite.currentAnimId);
+        if (!sprite.currentAnimId.empty() && !currentFound)
+            report("currentAnimId " + quoted(sprite.currentAnimId) +
+                   " names no animation of this sprite");
+    }
+
+    // Layers are numbered from 1 in slot order among the used ones, as the file has them.
+    void checkRecord(const SceneRec &scene)
+    {
+        if (scene.layerCount <= 0)
+            return;
+        int number = 0;
+        for (const LayerRec &layer : scene.layers) {
+            if (layer.inUse != -1)
+                continue;
+            const std::string name = "layer " + std::to_string(++number);
+            if (layer.objectKind < 1 || layer.objectKind > static_cast<int>(LayerKinds.size())) {
+                report(name + " objectKind " + std::to_string(layer.objectKind) +
+                       " is none of 1 texts, 2 sprites, 3 images, 4 buttons, 5 music");
+                if (layer.objectId != Null)
+                    checkBare(name + " objectId", layer.objectId);
+                continue;
+            }
+            checkReference(name + " objectId",
+                           layer.objectId,
+                           LayerKinds[static_cast<size_t>(layer.objectKind - 1)]);
+        }
+    }
+
+    void checkApplication()
+    {
+        const AppSettingsRec &app = m_doc.AppSettings;
+        m_subject = "application";
+        checkStarred("windowCaption", app.windowCaption);
+        checkStarred("windowIcon", app.windowIcon);
+        // The splash line, and in it the bare splash image path, is written only when on.
+        if (app.splashEnabled == 1) {
+            checkStarred("splashImagePath", app.splashImagePath);
+            checkBare("splashImagePath", app.splashImagePath);
+        }
+        checkStarred("logPath", app.logPath);
+    }
+
+    // log.cfg ends every custom filter with "*"; it writes them when the count is at least 1.
+    void checkCustomFilters()
+    {
+        const AppSettingsRec &app = m_doc.AppSettings;
+        if (app.customFilterCount < 1)
+            return;
+        int number = 0;
+        for (const CustomFilterRec &filter : app.CustomFilters) {
+            if (filter.inUse != -1)
+                continue;
+            m_subject = "custom filter " + std::to_string(++number);
+            checkStarred("text", filter.text);
+        }
+    }
+
+    const Document &m_doc;
+    std::string_view m_file;
+    std::array<std::unordered_set<std::string_view>, KindCount> m_ids;
+    std::string m_subject;
+    std::vector<std::string> m_problems;
+};
+
+} // namespace
+
+std::vector<std::string> checkProject(const Document &doc, std::string_view file)
+{
+    return Checker(doc, file).run();
+}
+
+} // namespace vorlane
