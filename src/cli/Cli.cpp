@@ -2,6 +2,7 @@
 
 #include "Version.h"
 #include "cli/Convert.h"
+#include "cli/Generate.h"
 
 #include <ostream>
 
@@ -21,6 +22,11 @@ std::string cliHelpText()
            "               read the project file IN.dvb and save it as OUT.dvb, which then\n"
            "               records OUT.dvb as its path; OUT.dvb is left alone if IN.dvb is\n"
            "               damaged\n"
+           "  generate PROJECT.dvb OUTDIR [--root FOLDER] [--verbose]\n"
+           "               read the project file PROJECT.dvb and write the engine's files\n"
+           "               (app.cfg, the nine .dat files, log.cfg) into OUTDIR, created when\n"
+           "               missing; --root replaces the project's application root folder,\n"
+           "               --verbose prints the progress on standard error\n"
            "\n"
            "Exit codes:\n"
            "  0  success\n"
@@ -47,6 +53,8 @@ int runCli(const std::vector<std::string> &args, std::ostream &out, std::ostream
     }
     if (command == "convert")
         return runConvert({args.begin() + 1, args.end()}, out, err);
+    if (command == "generate")
+        return runGenerate({args.begin() + 1, args.end()}, out, err);
     err << "vorlane-cli: unknown command \"" << command << "\"; see vorlane-cli --help\n";
     return ExitUsage;
 }

@@ -1,0 +1,161 @@
+#include "cli/Generate.h"
+
+#include "cli/Cli.h"
+#include "generate/GenerateCommands.h"
+#include "generate/GeneratePaths.h"
+#include "model/UserInterface.h"
+#include "project/Open.h"
+#include "project/SystemFileOps.h"
+
+#include <filesystem>
+#include <optional>
+#include <ostream>
+
+namespace vorlane {
+
+namespace {
+
+struct GenerateArgs
+{
+    std::string project;
+    std::string outDir;
+    std::optional<std::string> root;
+    bool verbose = false;
+};
+
+// Answers Yes to the question, chooses `chosen` in the folder dialog and shows nothing: the
+// command reports failures itself.
+class ScriptedAnswers : public UserInterface
+{
+public:
+    explicit ScriptedAnswers(std::string chosen)
+        : m_chosen(std::move(chosen))
+    {}
+    MessageAnswer showMessage(const Message &message) override
+    {
+        return message.buttons == MessageButtons::YesNo ? MessageAnswer::Yes : MessageAnswer::OK;
+    }
+    std::optional<std::string> chooseFile(const FileDialogRequest &) override { return m_chosen; }
+
+private:
+    std::string m_chosen;
+};
+
+// Prints the progress labels, one a line, when asked to.
+class LabelPrinter : public ProgressSink
+{
+public:
+    LabelPrinter(std::ostream &err, bool verbose)
+        : m_err(err)
+        , m_verbose(verbose)
+    {}
+    void begin(const std::string &title) override { print(title); }
+    void setLabel(const std::string &label) override { print(label); }
+
+private:
+    void print(const std::string &text)
+    {
+        if (m_verbose)
+            m_err << text << "\n";
+    }
+
+    std::ostream &m_err;
+    bool m_verbose;
+};
+
+int usage(std::ostream &err, const std::string &problem)
+{
+    err << "vorlane-cli: generate: " << problem
+        << "; usage: vorlane-cli generate PROJECT.dvb OUTDIR [--root FOLDER] [--verbose]\n";
+    return ExitUsage;
+}
+
+std::optional<GenerateArgs> parse(const std::vector<std::string> &args, std::string &problem)
+{
+    GenerateArgs parsed;
+    std::vector<std::string> positional;
+    for (std::size_t i = 0; i < args.size(); ++i) {
+        const std::string &arg = args[i];
+        if (arg == "--verbose") {
+            parsed.verbose = true;
+        } else if (arg == "--root") {
+            if (i + 1 == args.size()) {
+                problem = "--root needs a FOLDER";
+                return std::nullopt;
+            }
+            parsed.root = args[++i];
+        } else if (arg.size() > 1 && arg.front() == '-') {
+            problem = "unknown option \"" + arg + "\"";
+            return std::nullopt;
+        } else {
+            positional.push_back(arg);
+        }
+    }
+    if (positional.size() != 2) {
+        problem =
+            positional.size() < 2 ? "PROJECT.dvb and OUTDIR are needed" : "too many arguments";
+        return std::nullopt;
+    }
+    parsed.project = positional[0];
+    parsed.outDir = positional[1];
+    if (parsed.outDir.empty()) {
+        problem = "OUTDIR is empty";
+        return std::nullopt;
+    }
+    return parsed;
+}
+
+} // namespace
+
+int runGenerate(const std::vector<std::string> &args, std::ostream & /*out*/, std::ostream &err)
+{
+    std::string problem;
+    const std::optional<GenerateArgs> parsed = parse(args, problem);
+    if (!parsed)
+        return usage(err, problem);
+
+    // The file chosen in the folder dialog: any name in OUTDIR does, as in the editor.
+    std::string chosen = parsed->outDir;
+    if (chosen.back() != '/' && chosen.back() != '\\')
+        chosen.push_back('/');
+    chosen.append(GenerateProposedName);
+
+    ScriptedAnswers ui(chosen);
+    LabelPrinter progress(err, parsed->verbose);
+    auto doc = makeDocument();
+    const OpenOutcome opened = openProject(*doc, parsed->project, ui, progress, systemFileOps());
+    if (!opened.opened()) {
+        err << "vorlane-cli: " << describeOpenFailure(opened) << "\n";
+        return ExitFailure;
+    }
+    if (parsed->root)
+        doc->AppSettings.rootFolder = *parsed->root;
+
+    // Checked before OUTDIR is created, so that a refused folder is left as it was.
+    const std::string &rootFolder = doc->AppSettings.rootFolder;
+    if (!computeGeneratePaths(chosen, rootFolder)) {
+        err << "vorlane-cli: " << folderOf(chosen)
+            << ": the folder lies outside the application root folder " << rootFolder
+            << "; nothing was generated\n";
+        return ExitFailure;
+    }
+
+    std::error_code error;
+    std::filesystem::create_directories(parsed->outDir, error);
+    if (error) {
+        err << "vorlane-cli: " << parsed->outDir << ": " << error.message() << "\n";
+        return ExitFailure;
+    }
+
+    GenerateState state;
+    const GenerateResult result = generateDataAs(*doc, state, ui, progress);
+    if (result.outcome == GenerateOutcome::Generated)
+        return ExitSuccess;
+    if (result.failure)
+        err << "vorlane-cli: " << result.failure->path << ": " << result.failure->reason << "\n";
+    else
+        err << "vorlane-cli: " << parsed->project << ": nothing was generated\n";
+    return ExitFailure;
+}
+
+} // namespace vorlane
