@@ -1,5 +1,6 @@
 #include "frmMain.h"
 #include "QtUserInterface.h"
+#include "RegisterEditors.h"
 #include "Version.h"
 
 #include <QApplication>
@@ -16,6 +17,7 @@ int main(int argc, char **argv)
     vorlane::QtUserInterface userInterface;
     vorlane::frmMain window(*document, userInterface);
     userInterface.setParent(&window);
+    vorlane::registerEditors(window);
     window.show();
     return QApplication::exec();
 }

@@ -7,6 +7,7 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 namespace vorlane {
@@ -52,6 +53,14 @@ struct NumberField
     std::optional<int32_t> cap;  // 255 for the 0..255 fields: a larger number shows the cap
     NumberRange range = Int16Range;
 };
+
+// A number field whose emptied box shows `emptyText` (the text editor's point size: "12").
+inline NumberField numberWithEmptyText(std::string emptyText)
+{
+    NumberField field;
+    field.emptyText = std::move(emptyText);
+    return field;
+}
 
 // The 0..255 fields (colour components, alpha, volume, priority, pan).
 inline NumberField byteField()

@@ -164,7 +164,7 @@ TEST(NumberRule, StoresTheLeadingNumberAndLeavesTheBox)
 TEST(NumberRule, EmptiedBoxShowsTheFieldsEmptyText)
 {
     EXPECT_EQ(numberRule(""), (NumberOutcome{0, string("0")}));
-    const NumberField pointSize{"12", nullopt, Int16Range};
+    const NumberField pointSize = numberWithEmptyText("12");
     EXPECT_EQ(numberRule("", pointSize), (NumberOutcome{0, string("12")}));
     const auto rule = [&](const string &text) {
         return numberRule(text, pointSize);

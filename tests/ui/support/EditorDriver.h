@@ -16,7 +16,8 @@ namespace vorlane {
 
 // Clicks Edit Properties and runs `action` on the editor of type `Editor` once it is shown.
 // Returns true when `action` closed the editor itself; otherwise the test closes it with the
-// close box, so a failed check never leaves a modal window open.
+// close box, so a failed check never leaves a modal window open. An editor that never shows
+// fails the test.
 template<class Editor>
 bool editProperties(frmMain &window, std::function<void(Editor *)> action)
 {
@@ -31,7 +32,9 @@ bool editProperties(frmMain &window, std::function<void(Editor *)> action)
             guard->close();
     });
     clickButton(window.form().cmdObjEdit);
-    return shown && closedByAction;
+    if (!shown)
+        QTest::qFail("Edit Properties showed no editor", __FILE__, __LINE__);
+    return closedByAction;
 }
 
 // Empties a text box as a user does: select everything, then Backspace.
@@ -76,7 +79,8 @@ inline void chooseEntry(QComboBox *box, int row)
 {
     box->showPopup();
     QAbstractItemView *view = box->view();
-    QTest::qWaitForWindowExposed(view->window());
+    if (!QTest::qWaitForWindowExposed(view->window()))
+        return;
     const QModelIndex index = view->model()->index(row, box->modelColumn(), view->rootIndex());
     QTest::mouseClick(view->viewport(), Qt::LeftButton, {}, view->visualRect(index).center());
 }

@@ -1,0 +1,40 @@
+#include "ListBinding.h"
+
+#include <QComboBox>
+#include <QSignalBlocker>
+
+#include <utility>
+
+namespace vorlane {
+
+ListBinding::ListBinding(QComboBox *box, Offer offer, Shown shown, Change change, Click click)
+    : TextBinding(box, std::move(shown), std::move(change))
+    , m_box(box)
+    , m_offer(std::move(offer))
+    , m_click(std::move(click))
+{
+    // The list holds objects only; a typed text never becomes an entry.
+    box->setInsertPolicy(QComboBox::NoInsert);
+    m_activated = QObject::connect(box, &QComboBox::activated, box, [this](int index) {
+        m_click(m_box->itemText(index).toStdString());
+    });
+}
+
+ListBinding::~ListBinding()
+{
+    QObject::disconnect(m_activated);
+}
+
+void ListBinding::fill()
+{
+    {
+        const QSignalBlocker blocker(m_box);
+        m_box->clear();
+        for (const std::string &id : m_offer())
+            m_box->addItem(QString::fromStdString(id));
+        m_box->setCurrentIndex(-1);
+    }
+    TextBinding::fill();
+}
+
+} // namespace vorlane

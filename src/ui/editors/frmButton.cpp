@@ -1,0 +1,179 @@
+#include "frmButton.h"
+
+#include "frmMain.h"
+#include "model/ButtonFieldRules.h"
+#include "model/FieldRules.h"
+
+#include <QSignalBlocker>
+
+#include <cstddef>
+
+namespace vorlane {
+
+frmButton::frmButton(Document &doc, frmMain *mainWindow, QWidget *parent)
+    : EditorForm(doc, Kind::Button, mainWindow, parent ? parent : mainWindow)
+    , m_button(doc.Buttons.at(static_cast<size_t>(doc.currentObjectIndex)))
+{
+    m_ui.setupUi(this);
+    declareBindings();
+    connect(m_ui.optButton, &QRadioButton::toggled, this, [this](bool checked) {
+        if (checked)
+            optButton_Click();
+    });
+    connect(m_ui.optHotspot, &QRadioButton::toggled, this, [this](bool checked) {
+        if (checked)
+            optHotspot_Click();
+    });
+}
+
+void frmButton::newRecordDefaults()
+{
+    setButtonDefaults(m_button);
+}
+
+std::vector<QWidget *> frmButton::graphicOnlyControls() const
+{
+    return {m_ui.cmbButtonTemplate,
+            m_ui.txtButtonUp,
+            m_ui.txtButtonDown,
+            m_ui.txtButtonOver,
+            m_ui.txtButtonDisabled,
+            m_ui.optButtonDown,
+            m_ui.optButtonOver,
+            m_ui.cmbButtonIcon,
+            m_ui.cmbButtonCaption,
+            m_ui.chkButtonVisible,
+            m_ui.chkButtonIconVisible,
+            m_ui.chkButtonCaptionVisible,
+            m_ui.cmbButtonSoundUp,
+            m_ui.cmbButtonSoundOver,
+            m_ui.cmbButtonSoundDown,
+            m_ui.cmbButtonSoundDisabled,
+            m_ui.cmbButtonCursor};
+}
+
+// The bindings in the order the load fills them.
+void frmButton::declareBindings()
+{
+    ButtonRec &b = m_button;
+    m_id = &bindIdentifier(m_ui.txtButtonID, b.id);
+    bindNumber(m_ui.txtButtonX, b.x);
+    bindNumber(m_ui.txtButtonY, b.y);
+
+    loadStep([this]() {
+        showType();
+        const QSignalBlocker blockButton(m_ui.optButton);
+        const QSignalBlocker blockHotspot(m_ui.optHotspot);
+        (m_button.isHotSpot != 0 ? m_ui.optHotspot : m_ui.optButton)->setChecked(true);
+    });
+    // The switch boxes write where their label's caption says.
+    const auto switchBox = [this](QLineEdit *box, QLabel *label, int number) {
+        return &bindText(
+            box,
+            [this, label, number]() {
+                const int16_t *field = switchField(m_button, number, label->text().toStdString());
+                return field ? std::to_string(*field) : std::string();
+            },
+            [this, label, number](const std::string &text) {
+                const NumberOutcome outcome = numberRule(text);
+                if (int16_t *field = switchField(m_button, number, label->text().toStdString()))
+                    *field = static_cast<int16_t>(outcome.value);
+                return outcome.boxText;
+            });
+    };
+    m_switch1 = switchBox(m_ui.txtButtonSwitch1, m_ui.lblButtonSwitch1, 1);
+    m_switch2 = switchBox(m_ui.txtButtonSwitch2, m_ui.lblButtonSwitch2, 2);
+
+    m_template = &bindList(
+        m_ui.cmbButtonTemplate,
+        Kind::Image,
+        imageIsBound,
+        [this]() { return m_button.templateId; },
+        [this](const std::string &text) { return templateBoxChanged(m_button, text); },
+        [this](const std::string &chosen) { m_button.templateId = chosen; });
+    bindList(m_ui.cmbButtonIcon, b.iconId, Kind::Image, imageIsBound);
+    bindList(m_ui.cmbButtonCursor, b.cursorId, Kind::Cursor);
+    bindList(m_ui.cmbButtonCaption, b.captionTextId, Kind::Text);
+    bindList(m_ui.cmbButtonSoundUp, b.soundUp, Kind::SFX);
+    bindList(m_ui.cmbButtonSoundOver, b.soundOver, Kind::SFX);
+    bindList(m_ui.cmbButtonSoundDown, b.soundDown, Kind::SFX);
+    bindList(m_ui.cmbButtonSoundDisabled, b.soundDisabled, Kind::SFX);
+
+    m_up = &bindNumber(m_ui.txtButtonUp, b.frameUp);
+    bindNumber(m_ui.txtButtonOver, b.frameOver);
+    bindNumber(m_ui.txtButtonDown, b.frameDown);
+    m_disabled = &bindNumber(m_ui.txtButtonDisabled, b.frameDisabled);
+
+    // Choosing a state shows its cell; in this order, the first state on the current cell
+    // is the one shown as chosen.
+    const auto cell = [this](ButtonState state) {
+        return [this, state]() {
+            return stateCell(m_button, state);
+        };
+    };
+    bindOptions({{m_ui.optButtonDisabled, cell(ButtonState::Disabled)},
+                 {m_ui.optButtonDown, cell(ButtonState::Down)},
+                 {m_ui.optButtonUp, cell(ButtonState::Up)},
+                 {m_ui.optButtonOver, cell(ButtonState::Over)}},
+                b.currentFrame);
+
+    bindCheck(m_ui.chkButtonVisible, b.visible);
+    bindCheck(m_ui.chkButtonIconVisible, b.iconVisible);
+    bindCheck(m_ui.chkButtonCaptionVisible, b.captionVisible);
+}
+
+// Captions and enabled controls of the button's type.
+void frmButton::showType()
+{
+    const bool hotSpot = m_button.isHotSpot != 0;
+    const SwitchCaptions captions = switchCaptions(hotSpot);
+    m_ui.frmButtonSwitch->setTitle(QString::fromUtf8(captions.frame));
+    m_ui.lblButtonSwitch1->setText(QString::fromUtf8(captions.first));
+    m_ui.lblButtonSwitch2->setText(QString::fromUtf8(captions.second));
+    enableControls(graphicOnlyControls(), !hotSpot);
+}
+
+void frmButton::optHotspot_Click()
+{
+    if (m_button.isHotSpot != 0)
+        return;
+    m_button.isHotSpot = 1;
+    m_button.id = hotSpotId(m_button.id);
+    m_id->setText(m_button.id);
+    m_button.frameUp = 1;
+    m_button.frameDisabled = 0;
+    m_up->setText("1");
+    m_disabled->setText("0");
+    m_button.currentFrame = 1;
+    showType();
+    m_switch1->setText(std::to_string(m_button.hotSpotWidth));
+    m_switch2->setText(std::to_string(m_button.hotSpotHeight));
+    m_ui.optHotspot->setChecked(true);
+}
+
+void frmButton::optButton_Click()
+{
+    if (m_button.isHotSpot != 1)
+        return;
+    m_button.isHotSpot = 0;
+    m_button.id = graphicButtonId(m_button.id);
+    m_id->setText(m_button.id);
+    showType();
+    m_switch1->setText(std::to_string(m_button.templateRows));
+    m_switch2->setText(std::to_string(m_button.templateColumns));
+    m_ui.optButton->setChecked(true);
+
+    // In this order; the last three look at other fields but reset the template, which is
+    // how buttons have always come back from being hot spots.
+    if (m_button.templateId.empty())
+        m_template->setText(std::string(EnterTilemapId));
+    for (const std::string *field :
+         {&m_button.cursorId, &m_button.iconId, &m_button.captionTextId}) {
+        if (field->empty()) {
+            m_button.templateId = NullText;
+            m_template->setText(std::string());
+        }
+    }
+}
+
+} // namespace vorlane
