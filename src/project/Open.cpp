@@ -23,8 +23,8 @@ OpenOutcome openProject(Document &doc,
 {
     OpenOutcome outcome;
     outcome.path = chosenPath;
-    outcome.firstProject = doc.ProjectInfo.projectOpen == 0;
-    doc.ProjectInfo.projectFilePath = chosenPath;
+    const bool noProjectOpen = doc.ProjectInfo.projectOpen == 0;
+    doc.ProjectInfo.projectFilePath = chosenPath; // until the file names its own path
 
     progress.begin("Loading Data...");
     if (doc.ProjectInfo.projectOpen == -1) {
@@ -61,8 +61,7 @@ OpenOutcome openProject(Document &doc,
         showLoadError(ui, damageText(chosenPath, outcome.line, outcome.reason));
         break;
     }
-    if (!outcome.opened())
-        outcome.firstProject = false;
+    outcome.firstProject = outcome.opened() && noProjectOpen;
     return outcome;
 }
 
