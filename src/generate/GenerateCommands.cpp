@@ -63,6 +63,7 @@ GenerateResult generateDataAs(Document &doc,
     request.filterName = "Game Data Files";
     request.pattern = "*.dat";
     request.proposedName = GenerateProposedName;
+    request.title = "Generate Data As";
     const std::optional<std::string> chosen = ui.chooseFile(request);
     if (!chosen)
         return {GenerateOutcome::Cancelled, std::nullopt, {}};
