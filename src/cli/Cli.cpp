@@ -1,6 +1,7 @@
 #include "cli/Cli.h"
 
 #include "Version.h"
+#include "cli/Check.h"
 #include "cli/Convert.h"
 #include "cli/Generate.h"
 
@@ -18,6 +19,11 @@ std::string cliHelpText()
            "Commands:\n"
            "  --help       show this help and exit\n"
            "  --version    show the version and exit\n"
+           "  check PROJECT.dvb\n"
+           "               read the project file PROJECT.dvb and print what would break the\n"
+           "               engine or the next Open, one problem a line (FILE: KIND \"ID\":\n"
+           "               PROBLEM): references to missing objects, ids used twice, \"*\" in\n"
+           "               texts the engine ends at \"*\", blanks in ids and paths\n"
            "  convert IN.dvb OUT.dvb\n"
            "               read the project file IN.dvb and save it as OUT.dvb, which then\n"
            "               records OUT.dvb as its path; OUT.dvb is left alone if IN.dvb is\n"
@@ -51,6 +57,8 @@ int runCli(const std::vector<std::string> &args, std::ostream &out, std::ostream
         out << "vorlane-cli " << VersionText << "\n";
         return ExitSuccess;
     }
+    if (command == "check")
+        return runCheck({args.begin() + 1, args.end()}, out, err);
     if (command == "convert")
         return runConvert({args.begin() + 1, args.end()}, out, err);
     if (command == "generate")

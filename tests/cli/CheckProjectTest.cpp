@@ -1,0 +1,442 @@
+#include "project/ProjectCheck.h"
+
+#include "model/Kinds.h"
+#include "project/ProjectTestSupport.h"
+
+#include <gtest/gtest.h>
+
+#include <memory>
+#include <string>
+#include <type_traits>
+#include <vector>
+
+namespace vorlane {
+namespace {
+
+using testsupport::listObject;
+using Lines = std::vector<std::string>;
+
+// Lists `id` in `slot` of `kind` with every other bare text "null" or a plain path.
+void listPlainObject(Document &doc, Kind kind, int slot, const std::string &id)
+{
+    listObject(doc, kind, slot, id);
+    withTable(doc, kind, [&](auto &table) {
+        auto &rec = table[static_cast<size_t>(slot)];
+        using Rec = std::decay_t<decltype(rec)>;
+        if constexpr (std::is_same_v<Rec, ButtonRec>) {
+            for (std::string *text : {&rec.cursorId,
+                                      &rec.templateId,
+                                      &rec.iconId,
+                                      &rec.captionTextId,
+                                      &rec.soundUp,
+                                      &rec.soundDown,
+                                      &rec.soundOver,
+                                      &rec.soundDisabled})
+                *text = "null";
+        } else if constexpr (std::is_same_v<Rec, CursorRec>) {
+            rec.imageId = "null";
+        } else if constexpr (std::is_same_v<Rec, TextRec>) {
+            rec.fontId = "null";
+            rec.selectionImageId = "null";
+        } else if constexpr (std::is_same_v<Rec, SpriteRec>) {
+            rec.imageId = "null";
+            rec.currentAnimId = "null";
+        } else if constexpr (!std::is_same_v<Rec, SceneRec>) {
+            rec.path = "data\\file";
+        }
+    });
+}
+
+// A project in which every reference names a listed object of the right kind, every id is
+// unique and holds no blank, and no text holds "*".
+class CheckProject : public ::testing::Test
+{
+protected:
+    void SetUp() override
+    {
+        Document &d = *doc;
+        auto &app = d.AppSettings;
+        app.windowCaption = "Korrin Quest, the game";
+        app.windowIcon = "null";
+        app.splashEnabled = 1;
+        app.splashImagePath = "gfx\\splash.bmp";
+        app.logPath = "null";
+        app.customFilterCount = 1;
+        app.CustomFilters[1] = {-1, "Player: "};
+
+        listObject(d, Kind::Image, 0, "imgHero");
+        d.Images[0].path = "gfx\\hero.bmp";
+        listObject(d, Kind::Image, 1, "imgButtons");
+        d.Images[1].path = "gfx\\buttons.bmp";
+        listObject(d, Kind::Cursor, 0, "curHand");
+        d.Cursors[0].imageId = "imgHero";
+        listObject(d, Kind::Font, 0, "fntMain");
+        d.Fonts[0].path = "fonts\\main.ttf";
+        listObject(d, Kind::Text, 0, "txtStart");
+        d.Texts[0].content = "Start the game";
+        d.Texts[0].fontId = "fntMain";
+        d.Texts[0].selectionImageId = "null";
+        listObject(d, Kind::Music, 0, "musTheme");
+        d.MusicTracks[0].path = "music\\theme.ogg";
+        listObject(d, Kind::SFX, 0, "sfxClick");
+        d.SoundEffects[0].path = "sfx\\click.wav";
+
+        listObject(d, Kind::Button, 0, "cmdStart");
+        ButtonRec &start = d.Buttons[0];
+        start.cursorId = "curHand";
+        start.templateId = "imgButtons";
+        start.iconId = "null";
+        start.captionTextId = "txtStart";
+        start.soundUp = "sfxClick";
+        start.soundDown = "sfxClick";
+        start.soundOver = "null";
+        start.soundDisabled = "null";
+        listObject(d, Kind::Button, 1, "_exitZone");
+        d.Buttons[1].cursorId = "null";
+
+        listObject(d, Kind::Sprite, 0, "sprHero");
+        SpriteRec &hero = d.Sprites[0];
+        hero.imageId = "imgHero";
+        hero.currentAnimId = "walk";
+        hero.animCount = 2;
+        hero.anims[0].inUse = -1;
+        hero.anims[0].id = "stand";
+        hero.anims[1].inUse = -1;
+        hero.anims[1].id = "walk";
+
+        listObject(d, Kind::Scene, 0, "scnTitle");
+        SceneRec &title = d.Scenes[0];
+        const std::vector<std::pair<std::string, int16_t>> layers{{"txtStart", 1},
+                                                                  {"sprHero", 2},
+                                                                  {"imgHero", 3},
+                                                                  {"cmdStart", 4},
+                                                                  {"musTheme", 5},
+                                                                  {"null", 3}};
+        for (size_t i = 0; i < layers.size(); ++i)
+            title.layers[i] = {-1, layers[i].second, layers[i].first};
+        title.layerCount = static_cast<int16_t>(layers.size());
+    }
+
+    Lines check() const { return checkProject(*doc, "game.dvb"); }
+
+    std::unique_ptr<Document> doc = makeDocument();
+};
+
+TEST_F(CheckProject, FindsNothingInAConsistentProject)
+{
+    EXPECT_EQ(check(), Lines{});
+}
+
+TEST_F(CheckProject, ReportsEachButtonReferenceToAMissingObject)
+{
+    ButtonRec &start = doc->Buttons[0];
+    start.cursorId = "curGone";
+    start.templateId = "imgGone";
+    start.iconId = "imgIcon";
+    start.captionTextId = "txtGone";
+    start.soundUp = "sfxUp";
+    start.soundDown = "sfxDown";
+    start.soundOver = "sfxOver";
+    start.soundDisabled = "sfxOff";
+    EXPECT_EQ(check(),
+              (Lines{"game.dvb: button \"cmdStart\": cursorId \"curGone\" names no cursor",
+                     "game.dvb: button \"cmdStart\": templateId \"imgGone\" names no image",
+                     "game.dvb: button \"cmdStart\": iconId \"imgIcon\" names no image",
+                     "game.dvb: button \"cmdStart\": captionTextId \"txtGone\" names no text",
+                     "game.dvb: button \"cmdStart\": soundUp \"sfxUp\" names no sound effect",
+                     "game.dvb: button \"cmdStart\": soundDown \"sfxDown\" names no sound effect",
+                     "game.dvb: button \"cmdStart\": soundOver \"sfxOver\" names no sound effect",
+                     "game.dvb: button \"cmdStart\": soundDisabled \"sfxOff\" names no sound "
+                     "effect"}));
+}
+
+TEST_F(CheckProject, ReferenceMustNameAnObjectOfTheRightKind)
+{
+    // "sfxClick" exists, but as a sound effect, not as a cursor.
+    doc->Buttons[0].cursorId = "sfxClick";
+    EXPECT_EQ(check(),
+              Lines{"game.dvb: button \"cmdStart\": cursorId \"sfxClick\" names no cursor"});
+}
+
+TEST_F(CheckProject, ChecksAHotSpotsCursorOnly)
+{
+    // A hot spot's line carries no template, icon, caption or sounds.
+    ButtonRec &zone = doc->Buttons[1];
+    zone.templateId = "imgGone";
+    zone.soundUp = "sfx gone";
+    EXPECT_EQ(check(), Lines{});
+    zone.cursorId = "curGone";
+    EXPECT_EQ(check(),
+              Lines{"game.dvb: button \"_exitZone\": cursorId \"curGone\" names no cursor"});
+}
+
+TEST_F(CheckProject, ReportsCursorTextAndSpriteReferencesToMissingObjects)
+{
+    doc->Cursors[0].imageId = "imgGone";
+    doc->Texts[0].fontId = "fntGone";
+    doc->Texts[0].selectionImageId = "imgSelect";
+    doc->Sprites[0].imageId = "imgSprite";
+    EXPECT_EQ(check(),
+              (Lines{"game.dvb: cursor \"curHand\": imageId \"imgGone\" names no image",
+                     "game.dvb: text \"txtStart\": fontId \"fntGone\" names no font",
+                     "game.dvb: text \"txtStart\": selectionImageId \"imgSelect\" names no image",
+                     "game.dvb: sprite \"sprHero\": imageId \"imgSprite\" names no image"}));
+}
+
+TEST_F(CheckProject, CurrentAnimationMustBeOneOfTheSpritesOwn)
+{
+    listObject(*doc, Kind::Sprite, 1, "sprDog");
+    SpriteRec &dog = doc->Sprites[1];
+    dog.imageId = "imgHero";
+    dog.currentAnimId = "walk"; // an animation of sprHero, not of sprDog
+    EXPECT_EQ(check(),
+              Lines{"game.dvb: sprite \"sprDog\": currentAnimId \"walk\" names no animation of "
+                    "this sprite"});
+    dog.currentAnimId = "null";
+    EXPECT_EQ(check(), Lines{});
+}
+
+TEST_F(CheckProject, UnusedOrUnwrittenAnimationsDoNotCount)
+{
+    SpriteRec &hero = doc->Sprites[0];
+    hero.anims[1].inUse = 0;
+    const Lines missing{
+        "game.dvb: sprite \"sprHero\": currentAnimId \"walk\" names no animation of this sprite"};
+    EXPECT_EQ(check(), missing);
+    // With animCount 0 no animation is written, whatever the slots say.
+    hero.anims[1].inUse = -1;
+    hero.animCount = 0;
+    EXPECT_EQ(check(), missing);
+}
+
+TEST_F(CheckProject, LayerObjectIsLookedUpByItsObjectKind)
+{
+    SceneRec &title = doc->Scenes[0];
+    // Each layer names an object that exists, but under another kind than its objectKind.
+    const std::vector<std::pair<std::string, int16_t>> layers{
+        {"sprHero", 1}, {"imgHero", 2}, {"cmdStart", 3}, {"musTheme", 4}, {"txtStart", 5}};
+    for (size_t i = 0; i < layers.size(); ++i)
+        title.layers[i] = {-1, layers[i].second, layers[i].first};
+    title.layers[5].inUse = 0;
+    EXPECT_EQ(check(),
+              (Lines{"game.dvb: scene \"scnTitle\": layer 1 objectId \"sprHero\" names no text",
+                     "game.dvb: scene \"scnTitle\": layer 2 objectId \"imgHero\" names no sprite",
+                     "game.dvb: scene \"scnTitle\": layer 3 objectId \"cmdStart\" names no image",
+                     "game.dvb: scene \"scnTitle\": layer 4 objectId \"musTheme\" names no button",
+                     "game.dvb: scene \"scnTitle\": layer 5 objectId \"txtStart\" names no music "
+                     "track"}));
+}
+
+TEST_F(CheckProject, ReportsALayerObjectKindOutsideOneToFive)
+{
+    SceneRec &title = doc->Scenes[0];
+    title.layers[0].objectKind = 0;
+    title.layers[2].objectKind = 6;
+    EXPECT_EQ(check(),
+              (Lines{"game.dvb: scene \"scnTitle\": layer 1 objectKind 0 is none of 1 texts, 2 "
+                     "sprites, 3 images, 4 buttons, 5 music",
+                     "game.dvb: scene \"scnTitle\": layer 3 objectKind 6 is none of 1 texts, 2 "
+                     "sprites, 3 images, 4 buttons, 5 music"}));
+}
+
+TEST_F(CheckProject, LayersAreNumberedAmongTheUsedSlotsAndUnwrittenOnesAreSkipped)
+{
+    SceneRec &title = doc->Scenes[0];
+    title.layers[0].inUse = 0;
+    title.layers[3].objectId = "cmdGone";
+    EXPECT_EQ(check(),
+              Lines{"game.dvb: scene \"scnTitle\": layer 3 objectId \"cmdGone\" names no button"});
+    // With layerCount 0 the scene is written without layers.
+    title.layerCount = 0;
+    EXPECT_EQ(check(), Lines{});
+}
+
+TEST_F(CheckProject, OnlyListedObjectsCanBeReferredTo)
+{
+    // A removed image keeps its id in its slot, but is no longer listed.
+    doc->Images[5].id = "imgRemoved";
+    doc->Images[5].inUse = 0;
+    doc->Cursors[0].imageId = "imgRemoved";
+    EXPECT_EQ(check(),
+              Lines{"game.dvb: cursor \"curHand\": imageId \"imgRemoved\" names no image"});
+}
+
+TEST_F(CheckProject, NewObjectsAreNeitherCheckedNorTargets)
+{
+    // Added but never opened: Save and Generate drop it, so it cannot be referred to.
+    listObject(*doc, Kind::Font, 1, "New_Object1");
+    doc->Fonts[1].isNew = -1;
+    doc->Fonts[1].inUse = 0;
+    doc->Fonts[1].path = "has a blank";
+    doc->Texts[0].fontId = "New_Object1";
+    EXPECT_EQ(check(), Lines{"game.dvb: text \"txtStart\": fontId \"New_Object1\" names no font"});
+}
+
+TEST_F(CheckProject, ReportsEveryLaterObjectWithAnIdAlreadyUsedInItsKind)
+{
+    listObject(*doc, Kind::Image, 2, "imgHero");
+    doc->Images[2].path = "gfx\\hero2.bmp";
+    listObject(*doc, Kind::Image, 3, "imgHero");
+    doc->Images[3].path = "gfx\\hero3.bmp";
+    EXPECT_EQ(check(),
+              (Lines{"game.dvb: image \"imgHero\": id is also used by an earlier image",
+                     "game.dvb: image \"imgHero\": id is also used by an earlier image"}));
+}
+
+TEST_F(CheckProject, TheSameIdInTwoKindsIsNoDuplicate)
+{
+    listObject(*doc, Kind::Font, 1, "imgHero");
+    doc->Fonts[1].path = "fonts\\other.ttf";
+    EXPECT_EQ(check(), Lines{});
+}
+
+TEST_F(CheckProject, ReportsStarsInTextsTheEngineEndsAtAStar)
+{
+    auto &app = doc->AppSettings;
+    app.windowCaption = "Quest*";
+    app.windowIcon = "icons\\*.ico";
+    app.splashImagePath = "*splash.bmp";
+    app.logPath = "logs\\game*.log";
+    app.CustomFilters[1].text = "Player*";
+    doc->Texts[0].content = "Press * to start";
+    EXPECT_EQ(check(),
+              (Lines{"game.dvb: application: windowCaption holds \"*\", which the engine reads as "
+                     "the end of the text",
+                     "game.dvb: application: windowIcon holds \"*\", which the engine reads as the "
+                     "end of the text",
+                     "game.dvb: application: splashImagePath holds \"*\", which the engine reads "
+                     "as the end of the text",
+                     "game.dvb: application: logPath holds \"*\", which the engine reads as the "
+                     "end of the text",
+                     "game.dvb: text \"txtStart\": content holds \"*\", which the engine reads as "
+                     "the end of the text",
+                     "game.dvb: custom filter 1: text holds \"*\", which the engine reads as the "
+                     "end of the text"}));
+}
+
+TEST_F(CheckProject, SplashAndCustomFiltersCountOnlyWhenWritten)
+{
+    auto &app = doc->AppSettings;
+    app.splashEnabled = 0;
+    app.splashImagePath = "gfx\\my splash*.bmp";
+    app.customFilterCount = 0;
+    app.CustomFilters[1].text = "Player*";
+    EXPECT_EQ(check(), Lines{});
+}
+
+TEST_F(CheckProject, StarsElsewhereAreFine)
+{
+    doc->Images[0].path = "gfx\\hero*.bmp";
+    doc->Buttons[0].id = "cmd*Start";
+    doc->list(Kind::Button).lines[0].text = "cmd*Start";
+    doc->Scenes[0].layers[3].objectId = "cmd*Start";
+    EXPECT_EQ(check(), Lines{});
+}
+
+TEST_F(CheckProject, ReportsBlanksInIdsOfEveryKind)
+{
+    const std::vector<std::pair<Kind, std::string>> objects{{Kind::Button, "button"},
+                                                            {Kind::Cursor, "cursor"},
+                                                            {Kind::Image, "image"},
+                                                            {Kind::Text, "text"},
+                                                            {Kind::Font, "font"},
+                                                            {Kind::Music, "music track"},
+                                                            {Kind::SFX, "sound effect"},
+                                                            {Kind::Sprite, "sprite"},
+                                                            {Kind::Scene, "scene"}};
+    for (const auto &[kind, name] : objects) {
+        auto fresh = makeDocument();
+        listPlainObject(*fresh, kind, 0, "my object");
+        EXPECT_EQ(checkProject(*fresh, "game.dvb"),
+                  Lines{"game.dvb: " + name +
+                        " \"my object\": id holds a blank, which the engine reads as a "
+                        "separator"})
+            << name;
+    }
+}
+
+TEST_F(CheckProject, ReportsBlanksInPaths)
+{
+    doc->Images[0].path = "my gfx\\hero.bmp";
+    doc->Fonts[0].path = "fonts\\main font.ttf";
+    doc->MusicTracks[0].path = "music\\the\ttheme.ogg"; // a tab separates as well
+    doc->SoundEffects[0].path = "sfx\\click .wav";
+    doc->AppSettings.splashImagePath = "gfx\\my splash.bmp";
+    EXPECT_EQ(check(),
+              (Lines{"game.dvb: application: splashImagePath \"gfx\\my splash.bmp\" holds a "
+                     "blank, which the engine reads as a separator",
+                     "game.dvb: image \"imgHero\": path \"my gfx\\hero.bmp\" holds a blank, which "
+                     "the engine reads as a separator",
+                     "game.dvb: font \"fntMain\": path \"fonts\\main font.ttf\" holds a blank, "
+                     "which the engine reads as a separator",
+                     "game.dvb: music track \"musTheme\": path \"music\\the\ttheme.ogg\" holds a "
+                     "blank, which the engine reads as a separator",
+                     "game.dvb: sound effect \"sfxClick\": path \"sfx\\click .wav\" holds a "
+                     "blank, which the engine reads as a separator"}));
+}
+
+TEST_F(CheckProject, ReportsBlanksInReferencesAndAnimationIds)
+{
+    // The image exists under that id, so only its id and the blanks are wrong.
+    doc->Images[1].id = "img buttons";
+    doc->list(Kind::Image).lines[1].text = "img buttons";
+    doc->Buttons[0].templateId = "img buttons";
+    doc->Sprites[0].anims[0].id = "stand still";
+    doc->Scenes[0].layers[2].objectId = "img buttons";
+    EXPECT_EQ(check(),
+              (Lines{"game.dvb: button \"cmdStart\": templateId \"img buttons\" holds a blank, "
+                     "which the engine reads as a separator",
+                     "game.dvb: image \"img buttons\": id holds a blank, which the engine reads "
+                     "as a separator",
+                     "game.dvb: sprite \"sprHero\": animation 1 id \"stand still\" holds a blank, "
+                     "which the engine reads as a separator",
+                     "game.dvb: scene \"scnTitle\": layer 3 objectId \"img buttons\" holds a "
+                     "blank, which the engine reads as a separator"}));
+}
+
+TEST_F(CheckProject, BlanksInTextsTheEngineEndsAtAStarAreFine)
+{
+    doc->AppSettings.windowIcon = "my icons\\game.ico";
+    doc->AppSettings.logPath = "my logs\\game.log";
+    doc->AppSettings.CustomFilters[1].text = "Loaded scene ";
+    doc->Texts[0].content = "  Start  the  game  ";
+    EXPECT_EQ(check(), Lines{});
+}
+
+TEST_F(CheckProject, ReportsEmptyIdsPathsAndReferences)
+{
+    doc->Fonts[0].id = "";
+    doc->list(Kind::Font).lines[0].text = "";
+    doc->Images[0].path = "";
+    doc->Cursors[0].imageId = "";
+    doc->Sprites[0].currentAnimId = "";
+    doc->Texts[0].fontId = "fntMain"; // no longer listed under this id
+    EXPECT_EQ(check(),
+              (Lines{"game.dvb: image \"imgHero\": path is empty, which the engine cannot read",
+                     "game.dvb: cursor \"curHand\": imageId is empty, which the engine cannot "
+                     "read",
+                     "game.dvb: text \"txtStart\": fontId \"fntMain\" names no font",
+                     "game.dvb: font \"\": id is empty, which the engine cannot read",
+                     "game.dvb: sprite \"sprHero\": currentAnimId is empty, which the engine "
+                     "cannot read"}));
+}
+
+TEST_F(CheckProject, ReportsInFileOrderUnderTheGivenFileName)
+{
+    doc->Scenes[0].layers[0].objectId = "txtGone";
+    doc->Buttons[0].cursorId = "curGone";
+    doc->Images[0].path = "a b.bmp";
+    doc->AppSettings.logPath = "*";
+    EXPECT_EQ(checkProject(*doc, "/home/me/My Game.dvb"),
+              (Lines{"/home/me/My Game.dvb: application: logPath holds \"*\", which the engine "
+                     "reads as the end of the text",
+                     "/home/me/My Game.dvb: button \"cmdStart\": cursorId \"curGone\" names no "
+                     "cursor",
+                     "/home/me/My Game.dvb: image \"imgHero\": path \"a b.bmp\" holds a blank, "
+                     "which the engine reads as a separator",
+                     "/home/me/My Game.dvb: scene \"scnTitle\": layer 1 objectId \"txtGone\" "
+                     "names no text"}));
+}
+
+} // namespace
+} // namespace vorlane
