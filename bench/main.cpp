@@ -1,0 +1,394 @@
+// vorlane_bench: measures Save, Open and Generate on the largest project the tables allow,
+// each beside a plain copy of the same bytes (the file reads and writes alone, no parsing or
+// formatting), and vorlane-cli convert and generate as processes, with their peak memory.
+// With --window it measures instead how long the editor's main window takes to come up.
+//
+// Usage: vorlane_bench [--runs N] [--dir FOLDER] [--cli VORLANE_CLI]
+//        vorlane_bench --window HARNESS [--runs N]
+#include "LargestProject.h"
+
+#include "generate/EngineFiles.h"
+#include "generate/FileOutput.h"
+#include "generate/GenData.h"
+#include "model/Kinds.h"
+#include "model/ProgressSink.h"
+#include "model/UserInterface.h"
+#include "project/Open.h"
+#include "project/SafeSave.h"
+#include "project/Save.h"
+#include "project/SystemFileOps.h"
+
+#include <algorithm>
+#include <chrono>
+#include <cstdio>
+#include <cstdlib>
+#include <cstring>
+#include <filesystem>
+#include <functional>
+#include <string>
+#include <vector>
+
+#include <fcntl.h>
+#include <sys/resource.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+namespace {
+
+using namespace vorlane;
+using Clock = std::chrono::steady_clock;
+
+constexpr double MB = 1e6;
+
+// Answers Yes to the questions of Save and Generate and shows nothing.
+class AnswerYes : public UserInterface
+{
+public:
+    MessageAnswer showMessage(const Message &message) override
+    {
+        return message.buttons == MessageButtons::YesNo ? MessageAnswer::Yes : MessageAnswer::OK;
+    }
+    std::optional<std::string> chooseFile(const FileDialogRequest &) override { return {}; }
+};
+
+[[noreturn]] void fail(const std::string &what)
+{
+    std::fprintf(stderr, "vorlane_bench: %s\n", what.c_str());
+    std::exit(1);
+}
+
+double seconds(Clock::duration d)
+{
+    return std::chrono::duration<double>(d).count();
+}
+
+double median(std::vector<double> values)
+{
+    std::sort(values.begin(), values.end());
+    const size_t n = values.size();
+    return n % 2 ? values[n / 2] : (values[n / 2 - 1] + values[n / 2]) / 2;
+}
+
+// The median time of `runs` calls of `work`; `prepare` runs before each call, untimed.
+double
+medianTime(int runs, const std::function<void()> &work, const std::function<void()> &prepare = {})
+{
+    std::vector<double> times;
+    for (int i = 0; i < runs; ++i) {
+        if (prepare)
+            prepare();
+        const auto start = Clock::now();
+        work();
+        times.push_back(seconds(Clock::now() - start));
+    }
+    return median(times);
+}
+
+struct ChildRun
+{
+    double seconds = 0;
+    long maxRssKb = 0;
+    int exitCode = -1;
+    std::string output; // standard output, when asked for
+};
+
+// Runs `argv` as a child process; measures its wall time and peak resident memory.
+ChildRun runChild(const std::vector<std::string> &argv, bool keepOutput = false)
+{
+    int out[2];
+    if (::pipe(out) != 0)
+        fail("pipe failed");
+    std::vector<char *> args;
+    for (const std::string &arg : argv)
+        args.push_back(const_cast<char *>(arg.c_str()));
+    args.push_back(nullptr);
+
+    const auto start = Clock::now();
+    const pid_t child = ::fork();
+    if (child < 0)
+        fail("fork failed");
+    if (child == 0) {
+        const int null = ::open("/dev/null", O_WRONLY);
+        ::dup2(keepOutput ? out[1] : null, STDOUT_FILENO);
+        ::dup2(null, STDERR_FILENO);
+        ::close(out[0]);
+        ::execv(args[0], args.data());
+        ::_exit(127);
+    }
+    ::close(out[1]);
+    ChildRun run;
+    char buffer[4096];
+    for (ssize_t n; (n = ::read(out[0], buffer, sizeof buffer)) > 0;)
+        run.output.append(buffer, static_cast<size_t>(n));
+    ::close(out[0]);
+    int status = 0;
+    rusage usage{};
+    if (::wait4(child, &status, 0, &usage) != child)
+        fail("wait4 failed");
+    run.seconds = seconds(Clock::now() - start);
+    run.maxRssKb = usage.ru_maxrss;
+    run.exitCode = WIFEXITED(status) ? WEXITSTATUS(status) : -1;
+    return run;
+}
+
+std::string readFile(const std::string &path)
+{
+    std::string bytes;
+    if (const int error = systemFileOps().readAll(path, bytes); error != 0)
+        fail(path + ": " + errorText(error));
+    return bytes;
+}
+
+void writeSafely(const std::string &path, const std::string &bytes)
+{
+    const FileWriteResult result = writeFileSafely(path, bytes, systemFileOps());
+    if (!result.ok)
+        fail(path + ": " + result.reason);
+}
+
+struct EngineFile
+{
+    std::string name;
+    std::string bytes;
+};
+
+// The eleven engine files of `doc`, in the order GenData writes them.
+std::vector<EngineFile> engineFiles(const Document &doc, const std::string &dataFolderRel)
+{
+    std::vector<EngineFile> files{
+        {std::string(AppCfgName), appCfg(doc.AppSettings, dataFolderRel)}};
+    for (Kind kind : FileOrder)
+        files.push_back({kindInfo(kind).dataFile, dataFile(doc, kind)});
+    files.push_back({std::string(LogCfgName), logCfg(doc.AppSettings)});
+    return files;
+}
+
+void writeEngineFiles(const std::string &folder, const std::vector<EngineFile> &files)
+{
+    for (const EngineFile &file : files)
+        if (auto reason = diskFileOutput().writeFile(folder + file.name, file.bytes))
+            fail(folder + file.name + ": " + *reason);
+}
+
+size_t totalSize(const std::vector<EngineFile> &files)
+{
+    size_t size = 0;
+    for (const EngineFile &file : files)
+        size += file.bytes.size();
+    return size;
+}
+
+struct Row
+{
+    const char *name;
+    size_t bytes;       // bytes read plus bytes written
+    double time;        // median seconds
+    double copyTime;    // median seconds of the plain copy
+    double targetRatio; // 0 when no target applies
+};
+
+bool printRows(const std::vector<Row> &rows)
+{
+    bool allMet = true;
+    std::printf("%-22s %9s %9s %10s %10s %7s  %s\n",
+                "",
+                "ms",
+                "MB/s",
+                "copy ms",
+                "copy MB/s",
+                "ratio",
+                "target");
+    for (const Row &row : rows) {
+        const double ratio = row.time / row.copyTime;
+        std::string target = "-";
+        if (row.targetRatio > 0) {
+            const bool met = ratio <= row.targetRatio;
+            allMet = allMet && met;
+            char text[48];
+            std::snprintf(
+                text, sizeof text, "<= %.1fx %s", row.targetRatio, met ? "met" : "MISSED");
+            target = text;
+        }
+        std::printf("%-22s %9.1f %9.1f %10.1f %10.1f %6.2fx  %s\n",
+                    row.name,
+                    row.time * 1e3,
+                    static_cast<double>(row.bytes) / MB / row.time,
+                    row.copyTime * 1e3,
+                    static_cast<double>(row.bytes) / MB / row.copyTime,
+                    ratio,
+                    target.c_str());
+    }
+    return allMet;
+}
+
+int benchCore(int runs, const std::string &folder, const std::string &cli)
+{
+    AnswerYes ui;
+    ProgressSink quiet;
+
+    auto doc = makeDocument();
+    bench::buildLargestProject(*doc);
+    const std::string project = folder + "/largest.dvb";
+    doc->ProjectInfo.projectFilePath = project;
+    const std::string generated = folder + "/generated/";
+    std::filesystem::create_directories(generated);
+    doc->ProjectInfo.generatePath = generated;
+
+    if (!saveProject(*doc, ui, quiet, systemFileOps()).written())
+        fail(project + ": could not be saved");
+    const std::string bytes = readFile(project);
+    const auto lines = std::count(bytes.begin(), bytes.end(), '\n');
+    const std::vector<EngineFile> files = engineFiles(*doc, "generated/");
+    const size_t engineBytes = totalSize(files);
+    std::printf("Project: %.2f MB, %ld lines; engine files: %.2f MB; median of %d runs\n\n",
+                static_cast<double>(bytes.size()) / MB,
+                static_cast<long>(lines),
+                static_cast<double>(engineBytes) / MB,
+                runs);
+
+    std::vector<Row> rows;
+    const std::string copyProject = folder + "/copy.dvb";
+    const std::string copyFolder = folder + "/copy/";
+    std::filesystem::create_directories(copyFolder);
+
+    // Save: the writer and the safe save (temporary file, fsync, rename).
+    const double save = medianTime(runs, [&] {
+        if (!saveProject(*doc, ui, quiet, systemFileOps()).written())
+            fail(project + ": could not be saved");
+    });
+    const double saveCopy = medianTime(runs, [&] { writeSafely(copyProject, readFile(project)); });
+    rows.push_back({"Save", bytes.size(), save, saveCopy, 0});
+
+    // Open at program start: a new document, the file read and parsed.
+    std::unique_ptr<Document> opened;
+    const double open = medianTime(
+        runs,
+        [&] {
+            if (!openProject(*opened, project, ui, quiet, systemFileOps()).opened())
+                fail(project + ": could not be opened");
+        },
+        [&] { opened = makeDocument(); });
+    const double openCopy = medianTime(runs, [&] { (void)readFile(project); });
+    rows.push_back({"Open", bytes.size(), open, openCopy, 0});
+
+    // Generate: GenData into a folder.
+    const double generate = medianTime(runs, [&] {
+        if (auto failure = GenData(*doc, "generated/", quiet))
+            fail(failure->path + ": " + failure->reason);
+    });
+    const double generateCopy = medianTime(runs, [&] { writeEngineFiles(copyFolder, files); });
+    rows.push_back({"Generate", engineBytes, generate, generateCopy, 0});
+
+    // The command-line tool, as a process: Open and Save, Open and Generate.
+    const std::string converted = folder + "/converted.dvb";
+    long convertRss = 0;
+    std::vector<double> convertTimes;
+    for (int i = 0; i < runs; ++i) {
+        const ChildRun run = runChild({cli, "convert", project, converted});
+        if (run.exitCode != 0)
+            fail("vorlane-cli convert failed");
+        convertTimes.push_back(run.seconds);
+        convertRss = std::max(convertRss, run.maxRssKb);
+    }
+    const double convertCopy =
+        medianTime(runs, [&] { writeSafely(copyProject, readFile(project)); });
+    rows.push_back(
+        {"vorlane-cli convert", 2 * bytes.size(), median(convertTimes), convertCopy, 2.0});
+
+    const std::string cliOut = folder + "/cli-generated";
+    long generateRss = 0;
+    std::vector<double> generateTimes;
+    for (int i = 0; i < runs; ++i) {
+        const ChildRun run = runChild({cli, "generate", project, cliOut, "--root", folder});
+        if (run.exitCode != 0)
+            fail("vorlane-cli generate failed");
+        generateTimes.push_back(run.seconds);
+        generateRss = std::max(generateRss, run.maxRssKb);
+    }
+    const double cliGenerateCopy = medianTime(runs, [&] {
+        (void)readFile(project);
+        writeEngineFiles(copyFolder, files);
+    });
+    rows.push_back({"vorlane-cli generate",
+                    bytes.size() + engineBytes,
+                    median(generateTimes),
+                    cliGenerateCopy,
+                    2.0});
+
+    bool met = printRows(rows);
+    const double limitMb = 64;
+    std::printf("\nPeak memory (max RSS): vorlane-cli convert %.1f MB, vorlane-cli generate %.1f MB"
+                " (target < %.0f MB: %s)\n",
+                static_cast<double>(convertRss) / 1024,
+                static_cast<double>(generateRss) / 1024,
+                limitMb,
+                std::max(convertRss, generateRss) / 1024.0 < limitMb ? "met" : "MISSED");
+    met = met && std::max(convertRss, generateRss) / 1024.0 < limitMb;
+    return met ? 0 : 3;
+}
+
+// The harness prints "shown MS" (the milliseconds from its main() to the shown window) and
+// exits; the time from starting the process to that line is the window-up time.
+int benchWindow(int runs, const std::string &harness)
+{
+    std::vector<double> wall, inProcess;
+    for (int i = 0; i < runs; ++i) {
+        const ChildRun run = runChild({harness}, true);
+        double ms = 0;
+        if (run.exitCode != 0 || std::sscanf(run.output.c_str(), "shown %lf", &ms) != 1)
+            fail(harness + ": the window did not come up");
+        wall.push_back(run.seconds);
+        inProcess.push_back(ms / 1e3);
+    }
+    const double up = median(wall);
+    const char *platform = std::getenv("QT_QPA_PLATFORM");
+    std::printf("Window up (%s): %.0f ms from process start, %.0f ms from main(), median of %d "
+                "runs (target <= 300 ms: %s)\n",
+                platform ? platform : "default platform",
+                up * 1e3,
+                median(inProcess) * 1e3,
+                runs,
+                up <= 0.3 ? "met" : "MISSED");
+    return up <= 0.3 ? 0 : 3;
+}
+
+} // namespace
+
+int main(int argc, char **argv)
+{
+    int runs = 7;
+    std::string folder;
+    std::string cli = VORLANE_CLI_PATH;
+    std::string window;
+    for (int i = 1; i < argc; ++i) {
+        const std::string arg = argv[i];
+        const bool hasValue = i + 1 < argc;
+        if (arg == "--runs" && hasValue)
+            runs = std::max(1, std::atoi(argv[++i]));
+        else if (arg == "--dir" && hasValue)
+            folder = argv[++i];
+        else if (arg == "--cli" && hasValue)
+            cli = argv[++i];
+        else if (arg == "--window" && hasValue)
+            window = argv[++i];
+        else
+            fail("usage: vorlane_bench [--runs N] [--dir FOLDER] [--cli VORLANE_CLI] | --window "
+                 "HARNESS [--runs N]");
+    }
+    if (!window.empty())
+        return benchWindow(runs, window);
+
+    bool temporary = false;
+    if (folder.empty()) {
+        std::string pattern =
+            (std::filesystem::temp_directory_path() / "vorlane-bench-XXXXXX").string();
+        if (::mkdtemp(pattern.data()) == nullptr)
+            fail("cannot create a temporary folder");
+        folder = pattern;
+        temporary = true;
+    }
+    const int result = benchCore(runs, std::filesystem::absolute(folder).string(), cli);
+    if (temporary)
+        std::filesystem::remove_all(folder);
+    return result;
+}
