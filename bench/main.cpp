@@ -3,7 +3,7 @@
 // formatting), and vorlane-cli convert and generate as processes, with their peak memory.
 // With --window it measures instead how long the editor's main window takes to come up.
 //
-// Usage: vorlane_bench [--runs N] [--dir FOLDER] [--cli VORLANE_CLI]
+// Usage: vorlane_bench [--runs N] [--dir FOLDER] [--cli VORLANE_CLI] [--peak-memory WRAPPER]
 //        vorlane_bench --window HARNESS [--runs N]
 #include "LargestProject.h"
 
@@ -29,7 +29,6 @@
 #include <vector>
 
 #include <fcntl.h>
-#include <sys/resource.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
@@ -89,11 +88,11 @@ struct ChildRun
     double seconds = 0;
     long maxRssKb = 0;
     int exitCode = -1;
-    std::string output; // standard output, when asked for
+    std::string output; // standard output
 };
 
-// Runs `argv` as a child process; measures its wall time and peak resident memory.
-ChildRun runChild(const std::vector<std::string> &argv, bool keepOutput = false)
+// Runs `argv` as a child process and collects its standard output.
+ChildRun runChild(const std::vector<std::string> &argv)
 {
     int out[2];
     if (::pipe(out) != 0)
@@ -109,7 +108,7 @@ ChildRun runChild(const std::vector<std::string> &argv, bool keepOutput = false)
         fail("fork failed");
     if (child == 0) {
         const int null = ::open("/dev/null", O_WRONLY);
-        ::dup2(keepOutput ? out[1] : null, STDOUT_FILENO);
+        ::dup2(out[1], STDOUT_FILENO);
         ::dup2(null, STDERR_FILENO);
         ::close(out[0]);
         ::execv(args[0], args.data());
@@ -122,12 +121,24 @@ ChildRun runChild(const std::vector<std::string> &argv, bool keepOutput = false)
         run.output.append(buffer, static_cast<size_t>(n));
     ::close(out[0]);
     int status = 0;
-    rusage usage{};
-    if (::wait4(child, &status, 0, &usage) != child)
-        fail("wait4 failed");
+    if (::waitpid(child, &status, 0) != child)
+        fail("waitpid failed");
     run.seconds = seconds(Clock::now() - start);
-    run.maxRssKb = usage.ru_maxrss;
     run.exitCode = WIFEXITED(status) ? WEXITSTATUS(status) : -1;
+    return run;
+}
+
+// Runs `argv` through vorlane_peak_memory, which reports its time and peak memory; a child
+// forked from this process would count this process's memory in its peak.
+ChildRun measureChild(const std::string &peakMemory, std::vector<std::string> argv)
+{
+    argv.insert(argv.begin(), peakMemory);
+    const ChildRun wrapper = runChild(argv);
+    ChildRun run;
+    if (wrapper.exitCode != 0 ||
+        std::sscanf(
+            wrapper.output.c_str(), "%lf %ld %d", &run.seconds, &run.maxRssKb, &run.exitCode) != 3)
+        fail(peakMemory + " failed");
     return run;
 }
 
@@ -221,7 +232,10 @@ bool printRows(const std::vector<Row> &rows)
     return allMet;
 }
 
-int benchCore(int runs, const std::string &folder, const std::string &cli)
+int benchCore(int runs,
+              const std::string &folder,
+              const std::string &cli,
+              const std::string &peakMemory)
 {
     AnswerYes ui;
     ProgressSink quiet;
@@ -284,7 +298,7 @@ int benchCore(int runs, const std::string &folder, const std::string &cli)
     long convertRss = 0;
     std::vector<double> convertTimes;
     for (int i = 0; i < runs; ++i) {
-        const ChildRun run = runChild({cli, "convert", project, converted});
+        const ChildRun run = measureChild(peakMemory, {cli, "convert", project, converted});
         if (run.exitCode != 0)
             fail("vorlane-cli convert failed");
         convertTimes.push_back(run.seconds);
@@ -299,7 +313,8 @@ int benchCore(int runs, const std::string &folder, const std::string &cli)
     long generateRss = 0;
     std::vector<double> generateTimes;
     for (int i = 0; i < runs; ++i) {
-        const ChildRun run = runChild({cli, "generate", project, cliOut, "--root", folder});
+        const ChildRun run =
+            measureChild(peakMemory, {cli, "generate", project, cliOut, "--root", folder});
         if (run.exitCode != 0)
             fail("vorlane-cli generate failed");
         generateTimes.push_back(run.seconds);
@@ -333,7 +348,7 @@ int benchWindow(int runs, const std::string &harness)
 {
     std::vector<double> wall, inProcess;
     for (int i = 0; i < runs; ++i) {
-        const ChildRun run = runChild({harness}, true);
+        const ChildRun run = runChild({harness});
         double ms = 0;
         if (run.exitCode != 0 || std::sscanf(run.output.c_str(), "shown %lf", &ms) != 1)
             fail(harness + ": the window did not come up");
@@ -359,6 +374,7 @@ int main(int argc, char **argv)
     int runs = 7;
     std::string folder;
     std::string cli = VORLANE_CLI_PATH;
+    std::string peakMemory = VORLANE_PEAK_MEMORY_PATH;
     std::string window;
     for (int i = 1; i < argc; ++i) {
         const std::string arg = argv[i];
@@ -369,11 +385,13 @@ int main(int argc, char **argv)
             folder = argv[++i];
         else if (arg == "--cli" && hasValue)
             cli = argv[++i];
+        else if (arg == "--peak-memory" && hasValue)
+            peakMemory = argv[++i];
         else if (arg == "--window" && hasValue)
             window = argv[++i];
         else
-            fail("usage: vorlane_bench [--runs N] [--dir FOLDER] [--cli VORLANE_CLI] | --window "
-                 "HARNESS [--runs N]");
+            fail("usage: vorlane_bench [--runs N] [--dir FOLDER] [--cli VORLANE_CLI] "
+                 "[--peak-memory WRAPPER] | --window HARNESS [--runs N]");
     }
     if (!window.empty())
         return benchWindow(runs, window);
@@ -387,7 +405,7 @@ int main(int argc, char **argv)
         folder = pattern;
         temporary = true;
     }
-    const int result = benchCore(runs, std::filesystem::absolute(folder).string(), cli);
+    const int result = benchCore(runs, std::filesystem::absolute(folder).string(), cli, peakMemory);
     if (temporary)
         std::filesystem::remove_all(folder);
     return result;
