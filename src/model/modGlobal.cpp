@@ -70,7 +70,6 @@ void setUpNewProject(Document &doc, const std::string &name)
     app.windowCaption = "QTA Application";
     app.windowIcon = "null";
     app.logPath = "null";
-    app.splashImagePath = "null";
     app.screenType = 1;
     app.useEngineScreen = 0;
     app.fps = 0;
@@ -80,6 +79,22 @@ void setUpNewProject(Document &doc, const std::string &name)
     app.screenBpp = 0;
     app.soundMix = 0;
     app.soundChannels = 0;
+    resetSplash(app);
+
+    InitData(doc);
+    clearLists(doc);
+}
+
+void clearLists(Document &doc)
+{
+    for (auto &list : doc.lists) {
+        list.lines.clear();
+        list.selected = -1;
+    }
+}
+
+void resetSplash(AppSettingsRec &app)
+{
     app.splashEnabled = 0;
     app.splashWidth = 0;
     app.splashHeight = 0;
@@ -88,12 +103,7 @@ void setUpNewProject(Document &doc, const std::string &name)
     app.splashRed = 0;
     app.splashGreen = 0;
     app.splashBlue = 0;
-
-    InitData(doc);
-    for (auto &list : doc.lists) {
-        list.lines.clear();
-        list.selected = -1;
-    }
+    app.splashImagePath = "null";
 }
 
 } // namespace vorlane

@@ -341,6 +341,12 @@ std::unique_ptr<Document> makeDocument();
 // Frees every slot of every table (flags only), as before a project is loaded or created.
 void InitData(Document &doc);
 
+// Empties the nine object lists.
+void clearLists(Document &doc);
+
+// Sets every splash value to 0 and the splash image to "null": the splash screen is off.
+void resetSplash(AppSettingsRec &app);
+
 // Resets the settings, counters and tables for a fresh project named `name`.
 void setUpNewProject(Document &doc, const std::string &name);
 

@@ -30,10 +30,7 @@ OpenOutcome openProject(Document &doc,
     if (doc.ProjectInfo.projectOpen == -1) {
         progress.setLabel("Preparing to load data...");
         InitData(doc);
-        for (ObjectList &list : doc.lists) {
-            list.lines.clear();
-            list.selected = -1;
-        }
+        clearLists(doc);
     }
 
     std::string bytes;

@@ -277,15 +277,7 @@ void readApplication(FieldReader &in, AppSettingsRec &app)
     if (app.splashEnabled == 1) {
         readFields(in, app, layout::AppSplashLine);
     } else {
-        app.splashEnabled = 0;
-        app.splashWidth = 0;
-        app.splashHeight = 0;
-        app.splashBpp = 0;
-        app.splashTimer = 0;
-        app.splashRed = 0;
-        app.splashGreen = 0;
-        app.splashBlue = 0;
-        app.splashImagePath = "null";
+        resetSplash(app);
     }
     readFields(in, app, layout::AppLine3);
 }
