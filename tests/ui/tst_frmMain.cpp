@@ -212,6 +212,51 @@ private slots:
         QCOMPARE(label("lblButtonStatsCaption")->text(), QStringLiteral("Has Caption: NO"));
     }
 
+    void everyKindShowsItsStatisticsOnceOpened()
+    {
+        newProject(*m_window);
+        // The first label each kind's page fills, with a record value that shows in it.
+        struct Case
+        {
+            Kind kind;
+            const char *label;
+            QString caption;
+        };
+        m_doc->Cursors[0].orientation = 3;
+        m_doc->Images[0].path = "gfx/a.png";
+        m_doc->Texts[0].fontId = "fntMain";
+        m_doc->Fonts[0].path = "fonts/a.ttf";
+        m_doc->MusicTracks[0].path = "music/a.ogg";
+        m_doc->SoundEffects[0].path = "sfx/a.wav";
+        m_doc->Sprites[0].imageId = "imgHero";
+        m_doc->Scenes[0].layerCount = 4;
+        m_doc->Buttons[0].x = 9;
+        const Case cases[] = {
+            {Kind::Button, "lblButtonStatsPosX", "Button X: 9"},
+            {Kind::Cursor, "lblCursorStatsOrientation", "Cursor Orientation: LOWER-RIGHT"},
+            {Kind::Image, "lblImageStatsPathBottom", "gfx/a.png"},
+            {Kind::Text, "lblTextStatsFont", "Font: fntMain"},
+            {Kind::Font, "lblFontStatsPath", "Font Path: fonts/a.ttf"},
+            {Kind::Music, "lblMusicStatsPath", "Music Path: music/a.ogg"},
+            {Kind::SFX, "lblSFXStatsPath", "SFX Path: sfx/a.wav"},
+            {Kind::Sprite, "lblSpriteStatsImage", "Sprite Image: imgHero"},
+            {Kind::Scene, "lblSceneStatsLayers", "# of Layers: 4"},
+        };
+        for (const Case &c : cases) {
+            const int tab = tabOf(c.kind);
+            clickTab(*m_window, tab);
+            clickButton(m_window->form().cmdObjAdd);
+            QVERIFY(m_window->coverFrame(tab)->isVisible());
+            QVERIFY(label(c.label)->text() != c.caption);
+            // Opened once in its editor: live, no longer new.
+            slotOf(*m_doc, c.kind, 0).isNew = 0;
+            slotOf(*m_doc, c.kind, 0).inUse = -1;
+            clickLine(m_window->objectList(tab), 0);
+            QVERIFY2(!m_window->coverFrame(tab)->isVisible(), c.label);
+            QCOMPARE(label(c.label)->text(), c.caption);
+        }
+    }
+
     void clickingTheShownTabDoesNothing()
     {
         newProject(*m_window);
