@@ -1,3 +1,4 @@
+#include "frmAbout.h"
 #include "frmMain.h"
 #include "QtUserInterface.h"
 #include "RegisterEditors.h"
@@ -12,6 +13,7 @@ int main(int argc, char **argv)
     QApplication app(argc, argv);
     QApplication::setApplicationName(QString::fromUtf8(vorlane::ProgramTitle));
     QApplication::setApplicationVersion(QString::fromUtf8(vorlane::VersionText));
+    QApplication::setWindowIcon(vorlane::programIcon());
 
     auto document = vorlane::makeDocument();
     vorlane::QtUserInterface userInterface;

@@ -4,6 +4,8 @@
 #include "project/SafeSave.h"
 #include "project/SystemFileOps.h"
 
+#include <algorithm>
+
 namespace vorlane {
 
 namespace {
@@ -27,7 +29,11 @@ OpenOutcome openProject(Document &doc,
     doc.ProjectInfo.projectFilePath = chosenPath; // until the file names its own path
 
     progress.begin("Loading Data...");
-    if (doc.ProjectInfo.projectOpen == -1) {
+    // Lines left listed by an earlier Open that failed are cleared as well, so that they can
+    // never point at slots this file fills.
+    const bool anyListed = std::any_of(
+        doc.lists.begin(), doc.lists.end(), [](const auto &list) { return !list.lines.empty(); });
+    if (doc.ProjectInfo.projectOpen == -1 || anyListed) {
         progress.setLabel("Preparing to load data...");
         InitData(doc);
         clearLists(doc);
@@ -39,6 +45,7 @@ OpenOutcome openProject(Document &doc,
         outcome.status = OpenOutcome::Status::Unreadable;
         outcome.reason = errorText(error);
         showLoadError(ui, "Could not load \"" + chosenPath + "\": " + outcome.reason);
+        doc.ProjectInfo.projectFilePath.clear();
         return outcome;
     }
 
@@ -59,6 +66,10 @@ OpenOutcome openProject(Document &doc,
         break;
     }
     outcome.firstProject = outcome.opened() && noProjectOpen;
+    // What was read of a file that failed is no project of its own: forget the file's path,
+    // so that no Save and no question on exit can overwrite it with the part that was read.
+    if (!outcome.opened())
+        doc.ProjectInfo.projectFilePath.clear();
     return outcome;
 }
 

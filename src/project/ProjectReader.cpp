@@ -46,12 +46,20 @@ public:
         const char *begin = m_pos + 1;
         const char *p = begin;
         unsigned char high = 0;
-        while (p != m_end && *p != '"' && *p != '\r' && *p != '\n') {
-            high |= static_cast<unsigned char>(*p);
+        // Texts are written without escapes, so a double quote that a comma or a line end
+        // does not follow belongs to the text: a quoted word inside a text reads back intact.
+        for (;;) {
+            while (p != m_end && *p != '"' && *p != '\r' && *p != '\n') {
+                high |= static_cast<unsigned char>(*p);
+                ++p;
+            }
+            if (p == m_end || *p != '"')
+                fail("the text for ", name, " has no closing double quote");
+            const char *after = p + 1;
+            if (after == m_end || *after == ',' || *after == '\r' || *after == '\n')
+                break;
             ++p;
         }
-        if (p == m_end || *p != '"')
-            fail("the text for ", name, " has no closing double quote");
         if (high < 0x80) {
             out.assign(begin, p);
         } else {

@@ -35,6 +35,8 @@ std::string folderOf(const std::string &path)
 
 std::string errorText(int error)
 {
+    if (error == NotARegularFile)
+        return "not a regular file";
     return std::generic_category().message(error);
 }
 

@@ -25,4 +25,8 @@ std::string folderOf(const std::string &path);
 // The operating system's message for the errno value `error`.
 std::string errorText(int error);
 
+// The error FileOps::readAll reports for a device, pipe or socket: reading one could block
+// or never end, so project files are read from regular files only.
+inline constexpr int NotARegularFile = -2;
+
 } // namespace vorlane

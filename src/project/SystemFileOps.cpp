@@ -1,5 +1,7 @@
 #include "project/SystemFileOps.h"
 
+#include "project/SafeSave.h"
+
 #include <cerrno>
 #include <cstdio>
 
@@ -21,7 +23,8 @@ int closeKeepingError(int handle, int error)
 
 int SystemFileOps::readAll(const std::string &path, std::string &bytes)
 {
-    const int handle = ::open(path.c_str(), O_RDONLY | O_CLOEXEC);
+    // Non-blocking, so that opening a pipe without a writer cannot hang before it is refused.
+    const int handle = ::open(path.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK);
     if (handle < 0)
         return errno;
     struct stat info
@@ -31,12 +34,14 @@ int SystemFileOps::readAll(const std::string &path, std::string &bytes)
         return closeKeepingError(handle, errno);
     if (S_ISDIR(info.st_mode))
         return closeKeepingError(handle, EISDIR);
+    if (!S_ISREG(info.st_mode))
+        return closeKeepingError(handle, NotARegularFile);
 
-    // One read into a buffer of the file's size; files that grow or report no size (pipes)
-    // are read on until their end.
+    // One read into a buffer of the file's size; a file that grows meanwhile is read on until
+    // its end.
     bytes.clear();
     size_t used = 0;
-    bytes.resize(S_ISREG(info.st_mode) ? static_cast<size_t>(info.st_size) + 1 : 64 * 1024);
+    bytes.resize(static_cast<size_t>(info.st_size) + 1);
     for (;;) {
         if (used == bytes.size())
             bytes.resize(bytes.size() * 2);

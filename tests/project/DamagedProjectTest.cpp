@@ -119,16 +119,28 @@ TEST(DamagedProject, TrailingCharactersAfterAField)
               "project.dvb:17: unexpected characters after alpha");
     EXPECT_EQ(outcomeOf(withLine(12, "\"root\",\"caption\",\"icon\",800,600,32,2,60,1.5")),
               "project.dvb:12: unexpected characters after splashEnabled");
-    EXPECT_EQ(outcomeOf(withLine(19,
-                                 "\"Hi, there\"!,\"txt\",\"fnt\",1,2,3,4,5,6,7,8,9,\"sel\",10,11,"
-                                 "12,13,14,15,16,17,18,19,20")),
-              "project.dvb:19: unexpected characters after content");
+    // After a text, a double quote that no comma or line end follows belongs to the text;
+    // one that the line end cuts off leaves the text open.
+    EXPECT_EQ(outcomeOf(withLine(19, "\"Hi, there\"!")),
+              "project.dvb:19: the text for content has no closing double quote");
     EXPECT_EQ(outcomeOf(withLine(20, "\"fnt\",\"f.ttf\"\r")),
               "project.dvb:20: unexpected characters after path");
     EXPECT_EQ(outcomeOf(withLine(22, "\"sfx\",\"s.wav\",0x10,5,6")),
               "project.dvb:22: unexpected characters after defaultVolume");
-    EXPECT_EQ(outcomeOf(withLine(18, "\"cur\",\"i\"mg\",3")),
-              "project.dvb:18: unexpected characters after imageId");
+    EXPECT_EQ(outcomeOf(withLine(18, "\"cur\",\"img\" ,3")),
+              "project.dvb:18: the text for imageId has no closing double quote");
+}
+
+TEST(DamagedProject, ADoubleQuoteInsideATextBelongsToIt)
+{
+    auto doc = makeDocument();
+    const ProjectReadResult r = readProject(withLine(18, "\"cur\",\"say \"hi\" now\"\",3"), *doc);
+    ASSERT_EQ(r.status, ProjectReadResult::Status::Read) << r.line << ": " << r.message;
+    EXPECT_EQ(doc->Cursors[0].imageId, "say \"hi\" now\"");
+    EXPECT_EQ(doc->Cursors[0].orientation, 3);
+    // A quote that a comma follows still ends the text: such a text does not read back.
+    EXPECT_EQ(outcomeOf(withLine(18, "\"cur\",\"a\",b\",3")),
+              "project.dvb:18: a number was expected for orientation");
 }
 
 TEST(DamagedProject, ANumberIsAnOptionalMinusAndDigitsOnly)

@@ -407,6 +407,27 @@ TEST(ProjectReader, MismatchedAnimCountIsMisreadIntoTheNextLines)
     EXPECT_EQ(reopened->list(Kind::Sprite).lines.size(), 0u);
 }
 
+TEST(ProjectReader, MismatchedLayerCountIsMisreadIntoTheLogLines)
+{
+    // layerCount says 1 but two layers are used: the second layer's line is read where the
+    // log counts stand.
+    auto doc = makeDocument();
+    listObject(*doc, Kind::Scene, 0, "scn");
+    doc->Scenes[0].layerCount = 1;
+    doc->Scenes[0].layers[0] = {-1, 1, "a"};
+    doc->Scenes[0].layers[4] = {-1, 2, "b"};
+    const std::string file = projectFileBytes(*doc);
+    ASSERT_EQ(splitCrlf(file)[15], "\"b\",2");
+
+    auto reopened = makeDocument();
+    const ProjectReadResult r = readProject(file, *reopened);
+    EXPECT_EQ(r.status, ProjectReadResult::Status::Damaged);
+    EXPECT_EQ(damageText("project.dvb", r.line, r.message),
+              "project.dvb:16: a number was expected for logFileFilterCount");
+    EXPECT_EQ(reopened->Scenes[0].layers[0].objectId, "a");
+    EXPECT_EQ(reopened->list(Kind::Scene).lines.size(), 1u);
+}
+
 TEST(ProjectReader, MismatchedFrameCountShiftsLaterValuesWithoutNotice)
 {
     // frameCount says 1 but two frames are used: the second cell becomes the frame delay, every

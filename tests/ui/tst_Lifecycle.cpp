@@ -226,6 +226,35 @@ private slots:
         QCOMPARE(m_window->windowTitle(), QStringLiteral("Vorlane - My Project"));
     }
 
+    void exitKeepsTheWindowOpenWhenTheSaveFails()
+    {
+        newProject(*m_window);
+        m_doc->ProjectInfo.projectFilePath = path(QStringLiteral("missing/p.dvb")).toStdString();
+        m_ui->answers = {MessageAnswer::Yes, MessageAnswer::Yes};
+        m_window->form().mnuExit->trigger();
+        QVERIFY(m_window->isVisible());
+        QCOMPARE(m_ui->messages.back().title, std::string("Save Data"));
+        // With a file that can be written, Yes saves and the window closes.
+        m_doc->ProjectInfo.projectFilePath = path(QStringLiteral("p.dvb")).toStdString();
+        m_ui->answers = {MessageAnswer::Yes, MessageAnswer::Yes};
+        m_window->form().mnuExit->trigger();
+        QVERIFY(QFile::exists(path(QStringLiteral("p.dvb"))));
+        QVERIFY(!m_window->isVisible());
+    }
+
+    void aFailedOpenForgetsThePathSoNothingIsOverwritten()
+    {
+        const QString damaged = path(QStringLiteral("damaged.dvb"));
+        const QByteArray bytes = "\"P\"\r\n\"p.dvb\",\"\"\r\n0\r\n0\r\nx\r\n";
+        writeAll(damaged, bytes);
+        m_ui->fileChoices = {damaged.toStdString()};
+        m_window->form().mnuOpen->trigger();
+        m_ui->messages.clear();
+        m_window->form().mnuExit->trigger(); // no path: no question, nothing written
+        QVERIFY(m_ui->messages.empty());
+        QCOMPARE(readAll(damaged), bytes);
+    }
+
     void saveIntoAMissingFolderReportsTheReason()
     {
         newProject(*m_window);

@@ -276,6 +276,22 @@ private slots:
         });
     }
 
+    void reopeningAButtonWithoutTemplateKeepsItsCaption()
+    {
+        edit([](frmButton *editor) {
+            typeInto(editor->form().cmbButtonCaption, QStringLiteral("txtHello"));
+        });
+        QCOMPARE(button().templateId, std::string(""));
+        QCOMPARE(button().captionTextId, std::string("txtHello"));
+        // The empty template box shows what it showed: its handler does not run again.
+        edit([this](frmButton *editor) {
+            QCOMPARE(editor->form().cmbButtonCaption->currentText(), QStringLiteral("txtHello"));
+            QCOMPARE(button().captionTextId, std::string("txtHello"));
+            QCOMPARE(button().templateId, std::string(""));
+        });
+        QCOMPARE(button().captionTextId, std::string("txtHello"));
+    }
+
     void escapeClosesAndTheListShowsTheNewIdentifier()
     {
         addObject(tabOf(Kind::Button));

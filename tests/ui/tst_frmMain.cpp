@@ -257,6 +257,42 @@ private slots:
         }
     }
 
+    void unknownCodesLeaveTheirLabelsAsTheyWere()
+    {
+        newProject(*m_window);
+        clickTab(*m_window, 3);
+        for (int i = 0; i < 2; ++i)
+            clickButton(m_window->form().cmdObjAdd);
+        for (int slot : {0, 1}) {
+            m_doc->Cursors[size_t(slot)].isNew = 0;
+            m_doc->Cursors[size_t(slot)].inUse = -1;
+        }
+        m_doc->Cursors[0].orientation = 5;
+        m_doc->Cursors[1].orientation = 6;
+        clickLine(m_window->objectList(3), 0);
+        QCOMPARE(label("lblCursorStatsOrientation")->text(),
+                 QStringLiteral("Cursor Orientation: UPPER-LEFT"));
+        clickLine(m_window->objectList(3), 1);
+        QCOMPARE(label("lblCursorStatsOrientation")->text(),
+                 QStringLiteral("Cursor Orientation: UPPER-LEFT"));
+        m_doc->Cursors[1].orientation = 0;
+        clickLine(m_window->objectList(3), 1);
+        QCOMPARE(label("lblCursorStatsOrientation")->text(),
+                 QStringLiteral("Cursor Orientation: UPPER-LEFT"));
+    }
+
+    void aLineStaysSelectedAfterACtrlClick()
+    {
+        newProject(*m_window);
+        clickTab(*m_window, 2);
+        clickButton(m_window->form().cmdObjAdd);
+        QListWidget *list = m_window->objectList(2);
+        const QPoint first = list->visualItemRect(list->item(0)).center();
+        QTest::mouseClick(list->viewport(), Qt::LeftButton, Qt::ControlModifier, first);
+        QCOMPARE(list->selectedItems().size(), 1);
+        QCOMPARE(list->currentRow(), 0);
+    }
+
     void clickingTheShownTabDoesNothing()
     {
         newProject(*m_window);
@@ -466,6 +502,7 @@ private slots:
                  std::string("System Information Is Unavailable At This Time"));
         QVERIFY(m_ui->messages[0].icon == MessageIcon::None);
         QVERIFY(m_ui->messages[0].buttons == MessageButtons::OK);
+        QVERIFY(!about.findChild<QLabel *>(QStringLiteral("picIcon"))->pixmap().isNull());
     }
 
     void progressWindowStartsAtZero()

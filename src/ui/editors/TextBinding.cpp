@@ -2,7 +2,6 @@
 
 #include <QComboBox>
 #include <QLineEdit>
-#include <QSignalBlocker>
 
 #include <utility>
 
@@ -50,16 +49,14 @@ void TextBinding::setText(const std::string &text)
         m_line->setText(shown);
 }
 
-void TextBinding::setTextSilently(const std::string &text)
-{
-    const QSignalBlocker blocker(control());
-    setText(text);
-}
-
 void TextBinding::fill()
 {
-    setTextSilently(m_shown());
-    changed();
+    const std::string shown = m_shown();
+    if (shown != text()) {
+        setText(shown);
+    } else if (m_normalisesOnFill) {
+        changed();
+    }
 }
 
 void TextBinding::changed()

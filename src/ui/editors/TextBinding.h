@@ -29,8 +29,12 @@ public:
     TextBinding(QComboBox *box, Shown shown, Change change);
     ~TextBinding() override;
 
-    // Shows the field, then runs the change handler on it once.
+    // Shows the field. A shown text that differs from the box's runs the change handler; an
+    // unchanged one runs it too while `normalisesOnFill` is set, so a rule can turn an empty
+    // field into its stored form ("null", "Enter_ID", "0").
     void fill() override;
+    // Handlers that write other fields than their own must not run on an unchanged text.
+    void setNormalisesOnFill(bool normalises) { m_normalisesOnFill = normalises; }
     // Sets the box's text as the program does; a different text runs the change handler.
     void setText(const std::string &text);
     std::string text() const;
@@ -38,13 +42,13 @@ public:
 
 private:
     void changed();
-    void setTextSilently(const std::string &text);
 
     QLineEdit *m_line = nullptr;
     QComboBox *m_combo = nullptr;
     Shown m_shown;
     Change m_change;
     QMetaObject::Connection m_connection;
+    bool m_normalisesOnFill = true;
 };
 
 } // namespace vorlane

@@ -5,10 +5,22 @@
 #include "model/UserInterface.h"
 #include "Version.h"
 
-#include <QApplication>
+#include <QIcon>
 #include <QFileInfo>
 
+// The icon lives in the library's resources, which a static library must register itself.
+static void initAboutResources()
+{
+    Q_INIT_RESOURCE(vorlane);
+}
+
 namespace vorlane {
+
+QIcon programIcon()
+{
+    initAboutResources();
+    return QIcon(QStringLiteral(":/icons/vorlane.png"));
+}
 
 frmAbout::frmAbout(UserInterface &userInterface,
                    Registry &registry,
@@ -32,7 +44,7 @@ void frmAbout::Form_Load()
         QString::fromStdString(versionCaption(VersionMajor, VersionMinor, VersionRevision)));
     m_ui.lblTitle->setText(QString::fromUtf8(ProgramTitle));
     m_ui.lblDescription->setText(QString::fromUtf8(ProgramDescription));
-    m_ui.picIcon->setPixmap(QApplication::windowIcon().pixmap(48, 48));
+    m_ui.picIcon->setPixmap(programIcon().pixmap(48, 48));
 }
 
 void frmAbout::cmdOK_Click()

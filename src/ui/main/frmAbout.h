@@ -5,12 +5,16 @@
 #include "ui_frmAbout.h"
 
 #include <QDialog>
+#include <QIcon>
 
 #include <functional>
 
 namespace vorlane {
 
 class UserInterface;
+
+// The program's icon, shown by the windows and the About box.
+QIcon programIcon();
 
 // The About box: title, version, description and the System Info button.
 class frmAbout : public QDialog

@@ -83,6 +83,12 @@ void frmMain::connectHandlers()
             m_doc.list(kindOfTab(tab)).selected = row;
             lstObjects_Click(tab);
         });
+        // A line stays selected: Ctrl+click must not leave Edit and Remove acting on a line
+        // that no longer looks selected.
+        connect(list, &QListWidget::itemSelectionChanged, this, [list]() {
+            if (list->selectedItems().isEmpty() && list->currentItem())
+                list->currentItem()->setSelected(true);
+        });
         // A click on the line that is already selected refreshes the statistics too.
         connect(list, &QListWidget::itemClicked, this, [this, tab, list](QListWidgetItem *item) {
             m_doc.list(kindOfTab(tab)).selected = list->row(item);
@@ -347,15 +353,24 @@ void frmMain::mnuOpen_Click()
 
 void frmMain::mnuSave_Click()
 {
-    if (m_doc.ProjectInfo.projectFilePath.empty()) {
-        mnuSaveAs_Click();
-        return;
-    }
-    Save(m_doc, m_userInterface, progress());
-    listsChanged();
+    saveProject();
 }
 
 void frmMain::mnuSaveAs_Click()
+{
+    saveProjectAs();
+}
+
+bool frmMain::saveProject()
+{
+    if (m_doc.ProjectInfo.projectFilePath.empty())
+        return saveProjectAs();
+    const bool written = Save(m_doc, m_userInterface, progress());
+    listsChanged();
+    return written;
+}
+
+bool frmMain::saveProjectAs()
 {
     FileDialogRequest request;
     request.mode = FileDialogRequest::Mode::Save;
@@ -365,11 +380,12 @@ void frmMain::mnuSaveAs_Click()
     request.title = "Save As";
     const auto path = m_userInterface.chooseFile(request);
     if (!path)
-        return;
+        return false;
     m_doc.ProjectInfo.projectFilePath = *path;
-    Save(m_doc, m_userInterface, progress());
+    const bool written = Save(m_doc, m_userInterface, progress());
     listsChanged();
     m_ui.mnuSave->setEnabled(true);
+    return written;
 }
 
 void frmMain::mnuGenDataAs_Click()
@@ -403,8 +419,11 @@ void frmMain::closeEvent(QCloseEvent *event)
                                          "Save Data",
                                          MessageIcon::Question,
                                          MessageButtons::YesNo});
-        if (answer == MessageAnswer::Yes)
-            mnuSave_Click();
+        // A save that did not happen keeps the window open: leaving would lose the work.
+        if (answer == MessageAnswer::Yes && !saveProject()) {
+            event->ignore();
+            return;
+        }
     }
     event->accept();
 }

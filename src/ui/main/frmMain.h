@@ -85,6 +85,9 @@ private:
     void applyStats(const QuickStats &stats, QFrame *cover);
     void setLabelCaption(const char *labelName, const std::string &caption);
     void selectFirstTab();
+    // Save and Save As; true when the project file was written.
+    bool saveProject();
+    bool saveProjectAs();
     // Shows every list again after Open, Save or Generate changed them.
     void listsChanged();
 
