@@ -1,5 +1,7 @@
 #pragma once
 
+#include "project/LargeBuffer.h"
+
 #include <cstddef>
 #include <memory>
 
@@ -15,6 +17,7 @@ public:
     {
         if (size > m_capacity) {
             m_data = std::make_unique_for_overwrite<char[]>(size);
+            adviseLargeBuffer(m_data.get(), size);
             m_capacity = size;
         }
         return m_data.get();

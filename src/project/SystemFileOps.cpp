@@ -1,5 +1,6 @@
 #include "project/SystemFileOps.h"
 
+#include "project/LargeBuffer.h"
 #include "project/SafeSave.h"
 
 #include <cerrno>
@@ -41,7 +42,10 @@ int SystemFileOps::readAll(const std::string &path, std::string &bytes)
     // its end.
     bytes.clear();
     size_t used = 0;
-    bytes.resize(static_cast<size_t>(info.st_size) + 1);
+    const size_t size = static_cast<size_t>(info.st_size) + 1;
+    bytes.reserve(size);
+    adviseLargeBuffer(bytes.data(), size);
+    bytes.resize(size);
     for (;;) {
         if (used == bytes.size())
             bytes.resize(bytes.size() * 2);
