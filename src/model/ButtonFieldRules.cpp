@@ -96,7 +96,12 @@ int16_t *switchField(ButtonRec &button, int box, std::string_view label)
 
 std::string hotSpotId(std::string_view id)
 {
-    return "_" + std::string(id);
+    // Built by appending: g++ 12 at -O3 warns falsely (-Wrestrict) on "_" + std::string.
+    std::string prefixed;
+    prefixed.reserve(id.size() + 1);
+    prefixed.push_back('_');
+    prefixed.append(id);
+    return prefixed;
 }
 
 std::string graphicButtonId(std::string_view id)
