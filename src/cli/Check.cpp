@@ -1,26 +1,12 @@
 #include "cli/Check.h"
 
 #include "cli/Cli.h"
-#include "model/UserInterface.h"
-#include "project/Open.h"
+#include "cli/Unattended.h"
 #include "project/ProjectCheck.h"
-#include "project/SystemFileOps.h"
 
 #include <ostream>
 
 namespace vorlane {
-
-namespace {
-
-// Open asks nothing; its "Load Error" messages are reported by the command itself.
-class Unattended : public UserInterface
-{
-public:
-    MessageAnswer showMessage(const Message &) override { return MessageAnswer::OK; }
-    std::optional<std::string> chooseFile(const FileDialogRequest &) override { return {}; }
-};
-
-} // namespace
 
 int runCheck(const std::vector<std::string> &args, std::ostream &out, std::ostream &err)
 {
@@ -32,12 +18,9 @@ int runCheck(const std::vector<std::string> &args, std::ostream &out, std::ostre
 
     Unattended ui;
     ProgressSink quiet;
-    auto doc = makeDocument();
-    const OpenOutcome opened = openProject(*doc, path, ui, quiet, systemFileOps());
-    if (!opened.opened()) {
-        err << "vorlane-cli: " << describeOpenFailure(opened) << "\n";
+    const auto doc = openForCommand(path, ui, quiet, err);
+    if (!doc)
         return ExitFailure;
-    }
 
     const std::vector<std::string> problems = checkProject(*doc, path);
     for (const std::string &problem : problems)

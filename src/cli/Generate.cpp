@@ -1,11 +1,9 @@
 #include "cli/Generate.h"
 
 #include "cli/Cli.h"
+#include "cli/Unattended.h"
 #include "generate/GenerateCommands.h"
 #include "generate/GeneratePaths.h"
-#include "model/UserInterface.h"
-#include "project/Open.h"
-#include "project/SystemFileOps.h"
 
 #include <filesystem>
 #include <optional>
@@ -21,24 +19,6 @@ struct GenerateArgs
     std::string outDir;
     std::optional<std::string> root;
     bool verbose = false;
-};
-
-// Answers Yes to the question, chooses `chosen` in the folder dialog and shows nothing: the
-// command reports failures itself.
-class ScriptedAnswers : public UserInterface
-{
-public:
-    explicit ScriptedAnswers(std::string chosen)
-        : m_chosen(std::move(chosen))
-    {}
-    MessageAnswer showMessage(const Message &message) override
-    {
-        return message.buttons == MessageButtons::YesNo ? MessageAnswer::Yes : MessageAnswer::OK;
-    }
-    std::optional<std::string> chooseFile(const FileDialogRequest &) override { return m_chosen; }
-
-private:
-    std::string m_chosen;
 };
 
 // Prints the progress labels, one a line, when asked to.
@@ -120,14 +100,11 @@ int runGenerate(const std::vector<std::string> &args, std::ostream & /*out*/, st
         chosen.push_back('/');
     chosen.append(GenerateProposedName);
 
-    ScriptedAnswers ui(chosen);
+    Unattended ui(chosen);
     LabelPrinter progress(err, parsed->verbose);
-    auto doc = makeDocument();
-    const OpenOutcome opened = openProject(*doc, parsed->project, ui, progress, systemFileOps());
-    if (!opened.opened()) {
-        err << "vorlane-cli: " << describeOpenFailure(opened) << "\n";
+    const auto doc = openForCommand(parsed->project, ui, progress, err);
+    if (!doc)
         return ExitFailure;
-    }
     if (parsed->root)
         doc->AppSettings.rootFolder = *parsed->root;
 
