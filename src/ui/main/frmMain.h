@@ -61,7 +61,6 @@ public:
     void setEditor(Kind kind, EditorOpener opener);
 
     Document &document() { return m_doc; }
-    UserInterface &userInterface() { return m_userInterface; }
     frmProgress &progress();
     int currentTab() const { return m_currentTab; }
     QListWidget *objectList(int tab) const { return m_lists[static_cast<size_t>(tab)]; }

@@ -52,11 +52,6 @@ void frmProgress::end()
     hide();
 }
 
-QString frmProgress::label() const
-{
-    return m_ui.lblProgress->text();
-}
-
 void frmProgress::repaintNow()
 {
     QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);

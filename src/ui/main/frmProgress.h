@@ -24,8 +24,6 @@ public:
     int value() const override;
     void end() override;
 
-    QString label() const;
-
 private:
     void repaintNow();
 
