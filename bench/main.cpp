@@ -142,15 +142,15 @@ ChildRun measureChild(const std::string &peakMemory, std::vector<std::string> ar
     return run;
 }
 
-std::string readFile(const std::string &path)
+ByteBuffer readFile(const std::string &path)
 {
-    std::string bytes;
+    ByteBuffer bytes;
     if (const int error = systemFileOps().readAll(path, bytes); error != 0)
         fail(path + ": " + errorText(error));
     return bytes;
 }
 
-void writeSafely(const std::string &path, const std::string &bytes)
+void writeSafely(const std::string &path, std::string_view bytes)
 {
     const FileWriteResult result = writeFileSafely(path, bytes, systemFileOps());
     if (!result.ok)
@@ -250,8 +250,8 @@ int benchCore(int runs,
 
     if (!saveProject(*doc, ui, quiet, systemFileOps()).written())
         fail(project + ": could not be saved");
-    const std::string bytes = readFile(project);
-    const auto lines = std::count(bytes.begin(), bytes.end(), '\n');
+    const ByteBuffer bytes = readFile(project);
+    const auto lines = std::count(bytes.view().begin(), bytes.view().end(), '\n');
     const std::vector<EngineFile> files = engineFiles(*doc, "generated/");
     const size_t engineBytes = totalSize(files);
     std::printf("Project: %.2f MB, %ld lines; engine files: %.2f MB; median of %d runs\n\n",

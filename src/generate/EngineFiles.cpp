@@ -2,11 +2,20 @@
 
 #include "generate/EngineLine.h"
 #include "generate/EngineLineSize.h"
+#include "model/CollectingSink.h"
 #include "model/Kinds.h"
 
 namespace vorlane {
 
 namespace {
+
+// The bytes `produce` writes, as one string.
+std::string collected(const ChunkProducer &produce)
+{
+    CollectingSink sink;
+    produce(sink);
+    return sink.bytes().str();
+}
 
 // Slot flags hold -1 for true.
 bool isSet(int16_t flag)
@@ -14,17 +23,45 @@ bool isSet(int16_t flag)
     return flag == -1;
 }
 
-// Measures the bytes `write` produces, makes room for them and writes them in one pass,
-// without growing the buffer field by field.
-template<class Write>
-std::string_view writeLines(EngineBuffer &buffer, const Write &write)
+// Writes an engine file into chunks from a sink, one piece (a line or an object's record) at
+// a time: each piece is measured, room is made for it, and it is written in one pass, without
+// growing the chunk field by field. Full chunks go to the sink.
+class ChunkedLines
 {
-    EngineLineSize size;
-    write(size);
-    char *start = buffer.room(size.size());
-    EngineLine line(start);
-    write(line);
-    return {start, static_cast<std::size_t>(line.position() - start)};
+public:
+    explicit ChunkedLines(ChunkSink &sink)
+        : m_sink(sink)
+        , m_chunk(sink.next(0))
+    {}
+
+    template<class Write>
+    void write(const Write &write)
+    {
+        EngineLineSize size;
+        write(size);
+        if (m_chunk.capacity() - m_chunk.size() < size.size()) {
+            m_sink.put(std::move(m_chunk));
+            m_chunk = m_sink.next(size.size());
+        }
+        EngineLine line(m_chunk.data() + m_chunk.size());
+        write(line);
+        m_chunk.setSize(static_cast<std::size_t>(line.position() - m_chunk.data()));
+    }
+
+    // Hands the last chunk to the sink.
+    void finish() { m_sink.put(std::move(m_chunk)); }
+
+private:
+    ChunkSink &m_sink;
+    ByteBuffer m_chunk;
+};
+
+template<class Write>
+void writeInOnePiece(ChunkSink &sink, const Write &write)
+{
+    ChunkedLines out(sink);
+    out.write(write);
+    out.finish();
 }
 
 template<class Line>
@@ -182,29 +219,11 @@ void writeRecord(Line &line, const SceneRec &s)
             line.text(layer.objectId).number(layer.objectKind).end();
 }
 
-// The frame every object file shares: the count line, then one record per list line.
-template<class Line, class Table>
-void writeObjects(Line &line,
-                  const ObjectList &list,
-                  const Table &table,
-                  const RecordWritten &recordWritten)
-{
-    line.countLine(list.lines.size());
-    for (const ListLine &entry : list.lines) {
-        writeRecord(line, table.at(static_cast<std::size_t>(entry.slot)));
-        if constexpr (Line::writes) {
-            if (recordWritten)
-                recordWritten();
-        }
-    }
-}
-
 } // namespace
 
-std::string_view
-writeAppCfg(EngineBuffer &buffer, const AppSettingsRec &a, std::string_view dataFolderRel)
+void writeAppCfg(ChunkSink &sink, const AppSettingsRec &a, std::string_view dataFolderRel)
 {
-    return writeLines(buffer, [&](auto &line) {
+    writeInOnePiece(sink, [&](auto &line) {
         line.starred(dataFolderRel)
             .starred(a.windowCaption)
             .starred(a.windowIcon)
@@ -235,9 +254,9 @@ writeAppCfg(EngineBuffer &buffer, const AppSettingsRec &a, std::string_view data
     });
 }
 
-std::string_view writeLogCfg(EngineBuffer &buffer, const AppSettingsRec &a)
+void writeLogCfg(ChunkSink &sink, const AppSettingsRec &a)
 {
-    return writeLines(buffer, [&](auto &line) {
+    writeInOnePiece(sink, [&](auto &line) {
         // The counts are written as stored, not recounted from the check values.
         line.number(a.logTypeFilterCount).end();
         for (std::size_t i = 0; i < LogTypePrefixes.size(); ++i)
@@ -255,34 +274,39 @@ std::string_view writeLogCfg(EngineBuffer &buffer, const AppSettingsRec &a)
     });
 }
 
-std::string_view writeDataFile(EngineBuffer &buffer,
-                               const Document &doc,
-                               Kind kind,
-                               const RecordWritten &recordWritten)
+// The count line, then one record per list line.
+void writeDataFile(ChunkSink &sink,
+                   const Document &doc,
+                   Kind kind,
+                   const RecordWritten &recordWritten)
 {
     const ObjectList &list = doc.list(kind);
-    return withTable(doc, kind, [&](const auto &table) {
-        return writeLines(buffer,
-                          [&](auto &line) { writeObjects(line, list, table, recordWritten); });
+    ChunkedLines out(sink);
+    out.write([&](auto &line) { line.countLine(list.lines.size()); });
+    withTable(doc, kind, [&](const auto &table) {
+        for (const ListLine &entry : list.lines) {
+            const auto &record = table.at(static_cast<std::size_t>(entry.slot));
+            out.write([&](auto &line) { writeRecord(line, record); });
+            if (recordWritten)
+                recordWritten();
+        }
     });
+    out.finish();
 }
 
 std::string appCfg(const AppSettingsRec &settings, std::string_view dataFolderRel)
 {
-    EngineBuffer buffer;
-    return std::string(writeAppCfg(buffer, settings, dataFolderRel));
+    return collected([&](ChunkSink &sink) { writeAppCfg(sink, settings, dataFolderRel); });
 }
 
 std::string logCfg(const AppSettingsRec &settings)
 {
-    EngineBuffer buffer;
-    return std::string(writeLogCfg(buffer, settings));
+    return collected([&](ChunkSink &sink) { writeLogCfg(sink, settings); });
 }
 
 std::string dataFile(const Document &doc, Kind kind)
 {
-    EngineBuffer buffer;
-    return std::string(writeDataFile(buffer, doc, kind));
+    return collected([&](ChunkSink &sink) { writeDataFile(sink, doc, kind); });
 }
 
 std::string buttonDat(const Document &doc)

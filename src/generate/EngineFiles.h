@@ -1,6 +1,6 @@
 #pragma once
 
-#include "generate/EngineBuffer.h"
+#include "model/ChunkSink.h"
 #include "model/modGlobal.h"
 
 #include <functional>
@@ -12,18 +12,17 @@ namespace vorlane {
 // Called after each object record written to an engine data file.
 using RecordWritten = std::function<void()>;
 
-// Writes the bytes of app.cfg into `buffer` and returns them; `dataFolderRel` is the output
-// folder relative to the application root folder.
-std::string_view
-writeAppCfg(EngineBuffer &buffer, const AppSettingsRec &settings, std::string_view dataFolderRel);
-// Writes the bytes of log.cfg into `buffer` and returns them.
-std::string_view writeLogCfg(EngineBuffer &buffer, const AppSettingsRec &settings);
-// Writes the bytes of the engine data file of `kind` into `buffer`, its objects in list
-// order, and returns them.
-std::string_view writeDataFile(EngineBuffer &buffer,
-                               const Document &doc,
-                               Kind kind,
-                               const RecordWritten &recordWritten = {});
+// Writes the bytes of app.cfg to `sink`; `dataFolderRel` is the output folder relative to
+// the application root folder.
+void writeAppCfg(ChunkSink &sink, const AppSettingsRec &settings, std::string_view dataFolderRel);
+// Writes the bytes of log.cfg to `sink`.
+void writeLogCfg(ChunkSink &sink, const AppSettingsRec &settings);
+// Writes the bytes of the engine data file of `kind` to `sink`, its objects in list order,
+// calling `recordWritten` after each object.
+void writeDataFile(ChunkSink &sink,
+                   const Document &doc,
+                   Kind kind,
+                   const RecordWritten &recordWritten = {});
 
 // The bytes of each engine file (Windows-1252, CR LF).
 std::string appCfg(const AppSettingsRec &settings, std::string_view dataFolderRel);

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "model/ChunkSink.h"
+
 #include <optional>
 #include <string>
 #include <string_view>
@@ -16,9 +18,14 @@ public:
     // when any of that fails, nothing on success.
     virtual std::optional<std::string> writeFile(const std::string &path,
                                                  std::string_view bytes) = 0;
+    // The same for the bytes `produce` hands to its sink. Unless an output does better, the
+    // bytes are collected and written with writeFile.
+    virtual std::optional<std::string> writeChunked(const std::string &path,
+                                                    const ChunkProducer &produce);
 };
 
-// Writes files straight to the disk, in place (no temporary file).
+// Writes files straight to the disk, in place (no temporary file); the chunks of a file are
+// written while the next ones are produced.
 FileOutput &diskFileOutput();
 
 } // namespace vorlane

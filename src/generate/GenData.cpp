@@ -43,18 +43,19 @@ GenData(Document &doc, std::string_view dataFolderRel, ProgressSink &progress, F
     progress.setMaximum(maximum);
 
     const std::string &folder = doc.ProjectInfo.generatePath;
-    EngineBuffer buffer; // one buffer for all files
     const auto write = [&](std::string_view name,
-                           std::string_view bytes) -> std::optional<GenerateFailure> {
+                           const ChunkProducer &produce) -> std::optional<GenerateFailure> {
         std::string path = folder;
         path.append(name);
-        if (auto reason = files.writeFile(path, bytes))
+        if (auto reason = files.writeChunked(path, produce))
             return GenerateFailure{std::move(path), std::move(*reason)};
         return std::nullopt;
     };
 
     progress.setLabel("Generating Application Data...");
-    if (auto failure = write(AppCfgName, writeAppCfg(buffer, doc.AppSettings, dataFolderRel)))
+    if (auto failure = write(AppCfgName, [&](ChunkSink &sink) {
+            writeAppCfg(sink, doc.AppSettings, dataFolderRel);
+        }))
         return failure;
     int value = 1;
     progress.setValue(value);
@@ -65,12 +66,14 @@ GenData(Document &doc, std::string_view dataFolderRel, ProgressSink &progress, F
     for (Kind kind : FileOrder) {
         const KindInfo &info = kindInfo(kind);
         progress.setLabel(info.generateLabel);
-        if (auto failure = write(info.dataFile, writeDataFile(buffer, doc, kind, step)))
+        if (auto failure = write(info.dataFile,
+                                 [&](ChunkSink &sink) { writeDataFile(sink, doc, kind, step); }))
             return failure;
     }
 
     progress.setLabel("Generating Log Data...");
-    if (auto failure = write(LogCfgName, writeLogCfg(buffer, doc.AppSettings)))
+    if (auto failure =
+            write(LogCfgName, [&](ChunkSink &sink) { writeLogCfg(sink, doc.AppSettings); }))
         return failure;
     progress.setValue(maximum);
     return std::nullopt;

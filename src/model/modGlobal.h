@@ -1,5 +1,7 @@
 #pragma once
 
+#include "model/LargeMemory.h"
+
 #include <array>
 #include <cstdint>
 #include <memory>
@@ -307,6 +309,11 @@ inline constexpr std::array<std::string_view, LogModuleCount> LogModuleFiles{"ca
 // counters and the nine object lists. Large (about 10 MB): create it with makeDocument().
 struct Document
 {
+    // About 10 MB, most of it the sprites' frames: it lives in large memory, which its
+    // construction fills in a few huge pages.
+    static void *operator new(std::size_t size) { return allocateLarge(size); }
+    static void operator delete(void *data, std::size_t size) noexcept { freeLarge(data, size); }
+
     std::array<ButtonRec, 101> Buttons{};
     std::array<CursorRec, 26> Cursors{};
     std::array<ImageRec, 201> Images{};

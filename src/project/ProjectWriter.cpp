@@ -2,7 +2,6 @@
 
 #include "model/Cp1252.h"
 #include "model/Kinds.h"
-#include "project/LargeBuffer.h"
 #include "project/ProjectLayout.h"
 
 #include <algorithm>
@@ -30,18 +29,25 @@ constexpr auto SmallNumbers = [] {
     return table;
 }();
 
-// Builds the whole file in one buffer. Every write claims its room first and then fills it
-// through a pointer, so writing a field never allocates.
+// Builds the file in a buffer: the whole file in one, or chunk by chunk when the chunks go
+// to a sink. Every write claims its room first and then fills it through a pointer, so
+// writing a field never allocates.
 class LineWriter
 {
 public:
     explicit LineWriter(size_t expectedSize)
     {
         m_buf.reserve(expectedSize);
-        adviseLargeBuffer(m_buf.data(), expectedSize);
-        m_buf.resize(expectedSize);
         m_cur = m_buf.data();
-        m_limit = m_buf.data() + m_buf.size();
+        m_limit = m_buf.data() + m_buf.capacity();
+    }
+
+    explicit LineWriter(ChunkSink &sink)
+        : m_sink(&sink)
+    {
+        m_buf = sink.next(0);
+        m_cur = m_buf.data();
+        m_limit = m_buf.data() + m_buf.capacity();
     }
 
     void text(std::string_view utf8)
@@ -96,10 +102,18 @@ public:
         m_cur = p + 2;
     }
 
-    std::string take()
+    ByteBuffer take()
     {
-        m_buf.resize(static_cast<size_t>(m_cur - m_buf.data()));
+        m_buf.setSize(static_cast<size_t>(m_cur - m_buf.data()));
         return std::move(m_buf);
+    }
+
+    // Hands what is left to the sink.
+    void finish()
+    {
+        m_buf.setSize(static_cast<size_t>(m_cur - m_buf.data()));
+        m_sink->put(std::move(m_buf));
+        m_cur = m_limit = nullptr;
     }
 
 private:
@@ -121,15 +135,25 @@ private:
         return m_cur;
     }
 
+    // Makes room for `size` more bytes: hands the chunk to the sink and goes on in a fresh
+    // one, or grows the one buffer.
     void grow(size_t size)
     {
         const size_t used = static_cast<size_t>(m_cur - m_buf.data());
-        m_buf.resize(std::max(m_buf.size() * 2, used + size));
-        m_cur = m_buf.data() + used;
-        m_limit = m_buf.data() + m_buf.size();
+        m_buf.setSize(used);
+        if (m_sink) {
+            m_sink->put(std::move(m_buf));
+            m_buf = m_sink->next(size);
+            m_cur = m_buf.data();
+        } else {
+            m_buf.reserve(std::max(m_buf.capacity() * 2, used + size));
+            m_cur = m_buf.data() + used;
+        }
+        m_limit = m_buf.data() + m_buf.capacity();
     }
 
-    std::string m_buf; // written up to m_cur; the rest is room
+    ChunkSink *m_sink = nullptr;
+    ByteBuffer m_buf; // written up to m_cur; the rest is room
     char *m_cur = nullptr;
     char *m_limit = nullptr;
     std::string m_scratch;
@@ -264,11 +288,8 @@ void writeLog(LineWriter &out, const AppSettingsRec &app)
             writeLine(out, filter, layout::CustomFilterLine);
 }
 
-} // namespace
-
-std::string projectFileBytes(const Document &doc, ProgressSink &progress)
+void writeDocument(LineWriter &out, const Document &doc, ProgressSink &progress)
 {
-    LineWriter out(expectedSize(doc));
     writeLine(out, doc.ProjectInfo, layout::ProjectNameLine);
     writeLine(out, doc.ProjectInfo, layout::ProjectPathLine);
 
@@ -301,10 +322,25 @@ std::string projectFileBytes(const Document &doc, ProgressSink &progress)
 
     progress.setLabel("Saving Log Data...");
     writeLog(out, app);
+}
+
+} // namespace
+
+ByteBuffer projectFileBytes(const Document &doc, ProgressSink &progress)
+{
+    LineWriter out(expectedSize(doc));
+    writeDocument(out, doc, progress);
     return out.take();
 }
 
-std::string projectFileBytes(const Document &doc)
+void writeProjectFile(const Document &doc, ProgressSink &progress, ChunkSink &sink)
+{
+    LineWriter out(sink);
+    writeDocument(out, doc, progress);
+    out.finish();
+}
+
+ByteBuffer projectFileBytes(const Document &doc)
 {
     ProgressSink quiet;
     return projectFileBytes(doc, quiet);

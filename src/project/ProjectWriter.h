@@ -1,9 +1,9 @@
 #pragma once
 
+#include "model/ByteBuffer.h"
+#include "model/ChunkSink.h"
 #include "model/ProgressSink.h"
 #include "model/modGlobal.h"
-
-#include <string>
 
 namespace vorlane {
 
@@ -13,9 +13,12 @@ namespace vorlane {
 // Reports "Saving Application Data...", the per-kind labels and "Saving Log Data..." to
 // `progress`, and one step per object. A list line whose slot lies outside its table throws
 // std::out_of_range.
-std::string projectFileBytes(const Document &doc, ProgressSink &progress);
+ByteBuffer projectFileBytes(const Document &doc, ProgressSink &progress);
 
 // The same, without progress reports.
-std::string projectFileBytes(const Document &doc);
+ByteBuffer projectFileBytes(const Document &doc);
+
+// The same bytes, handed to `sink` a chunk at a time while they are written.
+void writeProjectFile(const Document &doc, ProgressSink &progress, ChunkSink &sink);
 
 } // namespace vorlane

@@ -1,5 +1,7 @@
 #include "project/SafeSave.h"
 
+#include "model/ChunkWriter.h"
+
 #include <cerrno>
 #include <random>
 #include <system_error>
@@ -40,7 +42,28 @@ std::string errorText(int error)
     return std::generic_category().message(error);
 }
 
-FileWriteResult writeFileSafely(const std::string &path, std::string_view bytes, FileOps &ops)
+namespace {
+
+// Writes every byte of `data` to the open file `handle`, a piece at a time as the system
+// takes them; 0, or the errno value of the failure (EIO for a write that makes no progress).
+int writeAll(FileOps &ops, int handle, const char *data, std::size_t size)
+{
+    std::size_t done = 0;
+    while (done < size) {
+        std::size_t written = 0;
+        if (const int error = ops.write(handle, data + done, size - done, written); error != 0)
+            return error;
+        if (written == 0)
+            return EIO; // a write that makes no progress would never end
+        done += written;
+    }
+    return 0;
+}
+
+// Creates the temporary file, lets `fill` write it, then forces it to the device and renames
+// it over `path`; on any failure, and when `fill` throws, the temporary file is removed.
+template<class Fill>
+FileWriteResult writeThroughTemporary(const std::string &path, FileOps &ops, const Fill &fill)
 {
     static std::mt19937 random{std::random_device{}()};
 
@@ -54,13 +77,12 @@ FileWriteResult writeFileSafely(const std::string &path, std::string_view bytes,
     if (error != 0)
         return {false, errorText(error)};
 
-    size_t done = 0;
-    while (error == 0 && done < bytes.size()) {
-        size_t written = 0;
-        error = ops.write(handle, bytes.data() + done, bytes.size() - done, written);
-        if (error == 0 && written == 0)
-            error = EIO; // a write that makes no progress would never end
-        done += written;
+    try {
+        error = fill(handle);
+    } catch (...) {
+        ops.close(handle);
+        ops.remove(temporary);
+        throw;
     }
     if (error == 0)
         error = ops.sync(handle);
@@ -75,6 +97,27 @@ FileWriteResult writeFileSafely(const std::string &path, std::string_view bytes,
     }
     ops.syncFolder(folderOf(path));
     return {};
+}
+
+} // namespace
+
+FileWriteResult writeFileSafely(const std::string &path, std::string_view bytes, FileOps &ops)
+{
+    return writeThroughTemporary(
+        path, ops, [&](int handle) { return writeAll(ops, handle, bytes.data(), bytes.size()); });
+}
+
+FileWriteResult writeFileSafely(const std::string &path, const ChunkProducer &produce, FileOps &ops)
+{
+    return writeThroughTemporary(path, ops, [&](int handle) {
+        // The device starts on each chunk as soon as it is written, so that the sync at the end
+        // has little left to wait for.
+        ChunkWriter writer(
+            [&](const char *data, std::size_t size) { return writeAll(ops, handle, data, size); },
+            [&] { ops.startWriteback(handle); });
+        produce(writer);
+        return writer.finish();
+    });
 }
 
 } // namespace vorlane

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "model/ChunkSink.h"
 #include "project/FileOps.h"
 
 #include <string>
@@ -18,6 +19,12 @@ struct FileWriteResult
 // temporary file in the same folder, are forced to the device and the temporary file is then
 // renamed over `path`. On failure `path` is untouched and no temporary file remains.
 FileWriteResult writeFileSafely(const std::string &path, std::string_view bytes, FileOps &ops);
+
+// The same for the bytes `produce` hands to its sink, which are written while it produces
+// the next ones. When `produce` throws, the temporary file is removed and the exception
+// passes on.
+FileWriteResult
+writeFileSafely(const std::string &path, const ChunkProducer &produce, FileOps &ops);
 
 // The folder part of `path` ("." when it has none), as used for the temporary file.
 std::string folderOf(const std::string &path);

@@ -20,9 +20,9 @@ SaveResult saveProject(Document &doc, UserInterface &ui, ProgressSink &progress,
     progress.begin("Saving Data...");
     progress.setLabel("Removing New Objects...");
     removeNewObjects(doc);
-    const std::string bytes = projectFileBytes(doc, progress);
     const std::string &path = doc.ProjectInfo.projectFilePath;
-    FileWriteResult written = writeFileSafely(path, bytes, ops);
+    FileWriteResult written = writeFileSafely(
+        path, [&](ChunkSink &sink) { writeProjectFile(doc, progress, sink); }, ops);
     progress.end();
 
     if (!written.ok) {

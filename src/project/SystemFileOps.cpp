@@ -1,6 +1,5 @@
 #include "project/SystemFileOps.h"
 
-#include "project/LargeBuffer.h"
 #include "project/SafeSave.h"
 
 #include <cerrno>
@@ -22,7 +21,7 @@ int closeKeepingError(int handle, int error)
 
 } // namespace
 
-int SystemFileOps::readAll(const std::string &path, std::string &bytes)
+int SystemFileOps::readAll(const std::string &path, ByteBuffer &bytes)
 {
     // Non-blocking, so that opening a pipe without a writer cannot hang before it is refused.
     const int handle = ::open(path.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK);
@@ -41,15 +40,12 @@ int SystemFileOps::readAll(const std::string &path, std::string &bytes)
     // One read into a buffer of the file's size; a file that grows meanwhile is read on until
     // its end.
     bytes.clear();
-    size_t used = 0;
-    const size_t size = static_cast<size_t>(info.st_size) + 1;
-    bytes.reserve(size);
-    adviseLargeBuffer(bytes.data(), size);
-    bytes.resize(size);
+    bytes.reserve(static_cast<size_t>(info.st_size) + 1);
     for (;;) {
-        if (used == bytes.size())
-            bytes.resize(bytes.size() * 2);
-        const ssize_t n = ::read(handle, bytes.data() + used, bytes.size() - used);
+        if (bytes.size() == bytes.capacity())
+            bytes.reserve(bytes.capacity() * 2);
+        const ssize_t n =
+            ::read(handle, bytes.data() + bytes.size(), bytes.capacity() - bytes.size());
         if (n < 0) {
             if (errno == EINTR)
                 continue;
@@ -59,9 +55,8 @@ int SystemFileOps::readAll(const std::string &path, std::string &bytes)
         }
         if (n == 0)
             break;
-        used += static_cast<size_t>(n);
+        bytes.setSize(bytes.size() + static_cast<size_t>(n));
     }
-    bytes.resize(used);
     ::close(handle);
     return 0;
 }
@@ -91,6 +86,11 @@ int SystemFileOps::write(int handle, const char *data, size_t size, size_t &writ
         if (errno != EINTR)
             return errno;
     }
+}
+
+void SystemFileOps::startWriteback(int handle)
+{
+    ::sync_file_range(handle, 0, 0, SYNC_FILE_RANGE_WRITE);
 }
 
 int SystemFileOps::sync(int handle)

@@ -8,9 +8,10 @@ namespace vorlane {
 class SystemFileOps : public FileOps
 {
 public:
-    int readAll(const std::string &path, std::string &bytes) override;
+    int readAll(const std::string &path, ByteBuffer &bytes) override;
     int createNew(const std::string &path, const std::string &modelPath, int &handle) override;
     int write(int handle, const char *data, size_t size, size_t &written) override;
+    void startWriteback(int handle) override;
     int sync(int handle) override;
     int close(int handle) override;
     int rename(const std::string &from, const std::string &to) override;

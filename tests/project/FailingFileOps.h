@@ -21,7 +21,7 @@ public:
     std::vector<std::string> created;
     size_t bytesWritten = 0;
 
-    int readAll(const std::string &path, std::string &bytes) override
+    int readAll(const std::string &path, ByteBuffer &bytes) override
     {
         return readError != 0 ? readError : SystemFileOps::readAll(path, bytes);
     }

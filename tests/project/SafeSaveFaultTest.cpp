@@ -49,7 +49,7 @@ protected:
         ASSERT_EQ(readProject(previous, *doc).status, ProjectReadResult::Status::Read);
         doc->ProjectInfo.projectName = "Saved again";
         doc->ProjectInfo.projectFilePath = path;
-        bytes = projectFileBytes(*doc);
+        bytes = projectFileBytes(*doc).str();
         ASSERT_NE(bytes, previous);
     }
 

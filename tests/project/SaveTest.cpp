@@ -63,7 +63,7 @@ TEST_F(SaveTest, AnsweringYesRemovesNewObjectsAndWritesTheFile)
     ASSERT_EQ(doc->list(Kind::Image).lines.size(), 1u);
     EXPECT_EQ(doc->list(Kind::Image).lines[0].text, "img");
     EXPECT_EQ(doc->Images[0].isNew, -1); // only the list line goes
-    EXPECT_EQ(readBytes(folder.file("saved.dvb")), projectFileBytes(*doc));
+    EXPECT_EQ(readBytes(folder.file("saved.dvb")), projectFileBytes(*doc).str());
     EXPECT_EQ(splitCrlf(readBytes(folder.file("saved.dvb")))[4], "1"); // one image
     EXPECT_EQ(progress.events,
               (std::vector<std::string>{"begin Saving Data...",

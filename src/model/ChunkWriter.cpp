@@ -1,0 +1,90 @@
+#include "model/ChunkWriter.h"
+
+#include <algorithm>
+#include <utility>
+
+namespace vorlane {
+
+namespace {
+
+// Chunks in all: one being filled, one being written, one waiting between them.
+constexpr int MaxChunks = 3;
+
+} // namespace
+
+ChunkWriter::ChunkWriter(WriteAll writeAll, Written written)
+    : m_writeAll(std::move(writeAll))
+    , m_written(std::move(written))
+    , m_thread([this] { run(); })
+{}
+
+ChunkWriter::~ChunkWriter()
+{
+    finish();
+}
+
+ByteBuffer ChunkWriter::next(std::size_t room)
+{
+    ByteBuffer chunk;
+    {
+        std::unique_lock lock(m_mutex);
+        if (!m_free.empty() || m_chunks == MaxChunks) {
+            m_changed.wait(lock, [this] { return !m_free.empty(); });
+            chunk = std::move(m_free.back());
+            m_free.pop_back();
+        } else {
+            ++m_chunks; // made below, outside the lock
+        }
+    }
+    chunk.clear();
+    chunk.reserve(std::max(room, ChunkSize));
+    return chunk;
+}
+
+void ChunkWriter::put(ByteBuffer full)
+{
+    {
+        std::lock_guard lock(m_mutex);
+        if (full.empty())
+            m_free.push_back(std::move(full));
+        else
+            m_full.push_back(std::move(full));
+    }
+    m_changed.notify_all();
+}
+
+int ChunkWriter::finish()
+{
+    {
+        std::lock_guard lock(m_mutex);
+        m_finished = true;
+    }
+    m_changed.notify_all();
+    if (m_thread.joinable())
+        m_thread.join();
+    return m_error;
+}
+
+void ChunkWriter::run()
+{
+    std::unique_lock lock(m_mutex);
+    for (;;) {
+        m_changed.wait(lock, [this] { return !m_full.empty() || m_finished; });
+        if (m_full.empty())
+            return;
+        ByteBuffer chunk = std::move(m_full.front());
+        m_full.pop_front();
+        const bool failed = m_error != 0;
+        lock.unlock();
+        const int error = failed ? 0 : m_writeAll(chunk.data(), chunk.size());
+        if (!failed && error == 0 && m_written)
+            m_written();
+        lock.lock();
+        if (error != 0)
+            m_error = error;
+        m_free.push_back(std::move(chunk));
+        m_changed.notify_all();
+    }
+}
+
+} // namespace vorlane

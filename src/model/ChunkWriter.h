@@ -1,0 +1,56 @@
+#pragma once
+
+#include "model/ChunkSink.h"
+
+#include <condition_variable>
+#include <cstddef>
+#include <deque>
+#include <functional>
+#include <mutex>
+#include <thread>
+#include <vector>
+
+namespace vorlane {
+
+// Writes the chunks a producer puts to a file, on a thread of its own, so that the system's
+// copying of one chunk overlaps the producing of the next. It keeps a few chunks and hands
+// them out again in turn, so the producer fills memory that is already mapped and still in
+// the processor's caches. After the first failed write it writes nothing more.
+class ChunkWriter final : public ChunkSink
+{
+public:
+    static constexpr std::size_t ChunkSize = std::size_t{1} << 20;
+
+    // Writes `size` bytes at `data` to the file; 0, or the errno value of the failure.
+    using WriteAll = std::function<int(const char *data, std::size_t size)>;
+    // Called after each chunk written.
+    using Written = std::function<void()>;
+
+    explicit ChunkWriter(WriteAll writeAll, Written written = {});
+    ~ChunkWriter() override;
+    ChunkWriter(const ChunkWriter &) = delete;
+    ChunkWriter &operator=(const ChunkWriter &) = delete;
+
+    ByteBuffer next(std::size_t room) override;
+    void put(ByteBuffer full) override;
+
+    // Waits until every chunk put is written; 0, or the errno value of the first write that
+    // failed.
+    int finish();
+
+private:
+    void run();
+
+    const WriteAll m_writeAll;
+    const Written m_written;
+    std::mutex m_mutex;
+    std::condition_variable m_changed;
+    std::deque<ByteBuffer> m_full;  // put, not written yet
+    std::vector<ByteBuffer> m_free; // written, ready to be handed out again
+    int m_chunks = 0;               // made so far
+    int m_error = 0;
+    bool m_finished = false;
+    std::thread m_thread; // last: it starts once everything above is ready
+};
+
+} // namespace vorlane
