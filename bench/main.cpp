@@ -293,42 +293,51 @@ int benchCore(int runs,
     const double generateCopy = medianTime(runs, [&] { writeEngineFiles(copyFolder, files); });
     rows.push_back({"Generate", engineBytes, generate, generateCopy, 0});
 
-    // The command-line tool, as a process: Open and Save, Open and Generate.
+    // The command-line tool, as a process: Open and Save, Open and Generate. Each run of the
+    // tool alternates with a run of its copy, so that both meet the same moments of a shared
+    // machine.
+    struct ChildTimes
+    {
+        double median = 0;
+        double copyMedian = 0;
+        long maxRssKb = 0;
+    };
+    const auto measureTool = [&](const std::vector<std::string> &argv,
+                                 const std::function<void()> &copy) {
+        std::vector<double> times, copyTimes;
+        ChildTimes result;
+        for (int i = 0; i < runs; ++i) {
+            const ChildRun run = measureChild(peakMemory, argv);
+            if (run.exitCode != 0)
+                fail("vorlane-cli " + argv[1] + " failed");
+            times.push_back(run.seconds);
+            result.maxRssKb = std::max(result.maxRssKb, run.maxRssKb);
+            copyTimes.push_back(medianTime(1, copy));
+        }
+        result.median = median(times);
+        result.copyMedian = median(copyTimes);
+        return result;
+    };
+
     const std::string converted = folder + "/converted.dvb";
-    long convertRss = 0;
-    std::vector<double> convertTimes;
-    for (int i = 0; i < runs; ++i) {
-        const ChildRun run = measureChild(peakMemory, {cli, "convert", project, converted});
-        if (run.exitCode != 0)
-            fail("vorlane-cli convert failed");
-        convertTimes.push_back(run.seconds);
-        convertRss = std::max(convertRss, run.maxRssKb);
-    }
-    const double convertCopy =
-        medianTime(runs, [&] { writeSafely(copyProject, readFile(project)); });
+    const ChildTimes convert = measureTool({cli, "convert", project, converted},
+                                           [&] { writeSafely(copyProject, readFile(project)); });
     rows.push_back(
-        {"vorlane-cli convert", 2 * bytes.size(), median(convertTimes), convertCopy, 2.0});
+        {"vorlane-cli convert", 2 * bytes.size(), convert.median, convert.copyMedian, 2.0});
 
     const std::string cliOut = folder + "/cli-generated";
-    long generateRss = 0;
-    std::vector<double> generateTimes;
-    for (int i = 0; i < runs; ++i) {
-        const ChildRun run =
-            measureChild(peakMemory, {cli, "generate", project, cliOut, "--root", folder});
-        if (run.exitCode != 0)
-            fail("vorlane-cli generate failed");
-        generateTimes.push_back(run.seconds);
-        generateRss = std::max(generateRss, run.maxRssKb);
-    }
-    const double cliGenerateCopy = medianTime(runs, [&] {
-        (void)readFile(project);
-        writeEngineFiles(copyFolder, files);
-    });
+    const ChildTimes cliGenerate =
+        measureTool({cli, "generate", project, cliOut, "--root", folder}, [&] {
+            (void)readFile(project);
+            writeEngineFiles(copyFolder, files);
+        });
     rows.push_back({"vorlane-cli generate",
                     bytes.size() + engineBytes,
-                    median(generateTimes),
-                    cliGenerateCopy,
+                    cliGenerate.median,
+                    cliGenerate.copyMedian,
                     2.0});
+    const long convertRss = convert.maxRssKb;
+    const long generateRss = cliGenerate.maxRssKb;
 
     bool met = printRows(rows);
     const double limitMb = 64;

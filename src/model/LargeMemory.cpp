@@ -29,13 +29,15 @@ constexpr std::size_t roundUp(std::size_t size, std::size_t unit)
     return (size + unit - 1) & ~(unit - 1);
 }
 
-// Whole huge pages from one huge page on, whole small pages below.
+// Whole small pages. A block of a huge page or more starts on a huge page boundary, so that
+// every whole huge page inside it can be one; the part after the last whole huge page is in
+// small pages, which costs a few faults but never clears memory that is not used.
 constexpr std::size_t blockSize(std::size_t size)
 {
 #ifdef VORLANE_CHECKED_MEMORY
     return size == 0 ? 1 : size;
 #endif
-    return size >= HugePage ? roundUp(size, HugePage) : roundUp(size == 0 ? 1 : size, SmallPage);
+    return roundUp(size == 0 ? 1 : size, SmallPage);
 }
 
 void *mapAnonymous(std::size_t size)

@@ -5,8 +5,10 @@
 #include "project/ProjectLayout.h"
 
 #include <array>
+#include <bit>
 #include <charconv>
 #include <cstdint>
+#include <cstring>
 #include <tuple>
 
 namespace vorlane {
@@ -94,6 +96,25 @@ public:
         const char *p = m_pos;
         int done = 0;
         for (; done < count && m_end - p >= 6; ++done) {
+            // One or two digits and CR LF, as most cells are, in one four-byte comparison.
+            if constexpr (std::endian::native == std::endian::little) {
+                uint32_t line;
+                std::memcpy(&line, p, sizeof line);
+                const uint32_t first = (line & 0xFF) - '0';
+                const uint32_t second = ((line >> 8) & 0xFF) - '0';
+                if ((line >> 16) == 0x0A0D && first <= 9 && second <= 9) {
+                    frames[done].cell = static_cast<int16_t>(first * 10 + second);
+                    frames[done].inUse = -1;
+                    p += 4;
+                    continue;
+                }
+                if (((line >> 8) & 0xFFFF) == 0x0A0D && first <= 9) {
+                    frames[done].cell = static_cast<int16_t>(first);
+                    frames[done].inUse = -1;
+                    p += 3;
+                    continue;
+                }
+            }
             unsigned value = digit(p[0]);
             if (value > 9)
                 break;

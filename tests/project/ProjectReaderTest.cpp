@@ -407,6 +407,78 @@ TEST(ProjectReader, MismatchedAnimCountIsMisreadIntoTheNextLines)
     EXPECT_EQ(reopened->list(Kind::Sprite).lines.size(), 0u);
 }
 
+// The project file of one sprite whose one animation has the cell lines `cells`, each with
+// its own line end; the line of the first cell is the file's line 16.
+std::string fileWithCellLines(const std::vector<std::string> &cells)
+{
+    auto doc = makeDocument();
+    listObject(*doc, Kind::Sprite, 0, "sprA");
+    SpriteRec &sprite = doc->Sprites[0];
+    sprite.animCount = 1;
+    AnimRec &anim = sprite.anims[0];
+    anim.inUse = -1;
+    anim.id = "walk";
+    anim.frameCount = static_cast<int16_t>(cells.size());
+    for (size_t i = 0; i < cells.size(); ++i)
+        anim.frames[i] = {-1, static_cast<int16_t>(1000 + i)};
+    std::string file = projectFileBytes(*doc).str();
+    EXPECT_EQ(splitCrlf(file)[15], "1000");
+    for (size_t i = 0; i < cells.size(); ++i) {
+        const std::string placeholder = "\n" + std::to_string(1000 + i) + "\r\n";
+        const size_t at = file.find(placeholder);
+        EXPECT_NE(at, std::string::npos);
+        file.replace(at + 1, placeholder.size() - 1, cells[i]);
+    }
+    return file;
+}
+
+TEST(ProjectReader, CellLinesOfEveryWidthAndLineEndReadBack)
+{
+    const std::string file = fileWithCellLines({"0\r\n",
+                                                "7\r\n",
+                                                "42\r\n",
+                                                "07\r\n",
+                                                "123\r\n",
+                                                "4095\r\n",
+                                                "32767\r\n",
+                                                "-5\r\n",
+                                                "9\n",
+                                                "10\n",
+                                                "255\n",
+                                                "00042\r\n",
+                                                "8\r\n"});
+    auto doc = makeDocument();
+    ASSERT_EQ(readProject(file, *doc).status, ProjectReadResult::Status::Read);
+    const AnimRec &anim = doc->Sprites[0].anims[0];
+    std::vector<int16_t> cells;
+    for (int i = 0; i < anim.frameCount; ++i) {
+        EXPECT_EQ(anim.frames[static_cast<size_t>(i)].inUse, -1);
+        cells.push_back(anim.frames[static_cast<size_t>(i)].cell);
+    }
+    EXPECT_EQ(cells, (std::vector<int16_t>{0, 7, 42, 7, 123, 4095, 32767, -5, 9, 10, 255, 42, 8}));
+    EXPECT_EQ(anim.frames[13].inUse, 0);
+}
+
+TEST(ProjectReader, DamagedCellLinesNameTheirLine)
+{
+    const std::vector<std::pair<std::string, std::string>> cases = {
+        {"4x\r\n", "project.dvb:18: unexpected characters after cell"},
+        {"4\r\r\n", "project.dvb:18: unexpected characters after cell"},
+        {"12 \r\n", "project.dvb:18: unexpected characters after cell"},
+        {"x\r\n", "project.dvb:18: a number was expected for cell"},
+        {"\r\n", "project.dvb:18: a number was expected for cell"},
+        {"40000\r\n", "project.dvb:18: cell must lie between -32768 and 32767"},
+    };
+    for (const auto &[line, expected] : cases) {
+        SCOPED_TRACE(line);
+        const std::string file = fileWithCellLines({"1\r\n", "23\r\n", line, "5\r\n"});
+        auto doc = makeDocument();
+        const ProjectReadResult r = readProject(file, *doc);
+        ASSERT_EQ(r.status, ProjectReadResult::Status::Damaged);
+        EXPECT_EQ(damageText("project.dvb", r.line, r.message), expected);
+    }
+}
+
 TEST(ProjectReader, MismatchedLayerCountIsMisreadIntoTheLogLines)
 {
     // layerCount says 1 but two layers are used: the second layer's line is read where the
