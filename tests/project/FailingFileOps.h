@@ -20,6 +20,7 @@ public:
     int renameError = 0;
     std::vector<std::string> created;
     size_t bytesWritten = 0;
+    int writebacksStarted = 0;
 
     int readAll(const std::string &path, ByteBuffer &bytes) override
     {
@@ -44,6 +45,11 @@ public:
         const int error = SystemFileOps::write(handle, data, size, written);
         bytesWritten += written;
         return error;
+    }
+    void startWriteback(int handle) override
+    {
+        ++writebacksStarted;
+        SystemFileOps::startWriteback(handle);
     }
     int sync(int handle) override
     {

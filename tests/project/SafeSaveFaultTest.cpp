@@ -1,6 +1,7 @@
 #include "project/Save.h"
 
 #include "FailingFileOps.h"
+#include "model/ChunkWriter.h"
 #include "ProjectTestSupport.h"
 #include "project/ProjectReader.h"
 #include "project/ProjectWriter.h"
@@ -139,6 +140,57 @@ TEST_F(SafeSaveFault, FailingRenameKeepsThePreviousFile)
         expectFailedSaveKeepsEverything(ops, error);
         EXPECT_EQ(ops.bytesWritten, bytes.size()); // everything was written, then dropped
     }
+}
+
+// A project of several megabytes, so that a save spans several chunks of the writer.
+class SafeSaveFaultLarge : public SafeSaveFault
+{
+protected:
+    void SetUp() override
+    {
+        SafeSaveFault::SetUp();
+        for (int slot = 0; slot < 60; ++slot) {
+            listObject(*doc, Kind::Sprite, slot, "spr" + std::to_string(slot));
+            SpriteRec &sprite = doc->Sprites[static_cast<size_t>(slot)];
+            sprite.animCount = SubSlotCount;
+            for (AnimRec &anim : sprite.anims) {
+                anim.inUse = -1;
+                anim.id = "anim";
+                anim.frameCount = SubSlotCount;
+                for (FrameRec &frame : anim.frames)
+                    frame = {-1, static_cast<int16_t>(1000 + slot)};
+            }
+        }
+        bytes = projectFileBytes(*doc).str();
+        ASSERT_GT(bytes.size(), 3 * ChunkWriter::ChunkSize);
+    }
+};
+
+TEST_F(SafeSaveFaultLarge, WriteFailingAtTheEdgesOfChunksKeepsThePreviousFile)
+{
+    writeBytes(path, previous);
+    const size_t chunk = ChunkWriter::ChunkSize;
+    for (const size_t offset :
+         {size_t{0}, chunk - 1, chunk, chunk + 1, 2 * chunk + 12345, 3 * chunk, bytes.size() - 1}) {
+        SCOPED_TRACE("write failing at byte " + std::to_string(offset));
+        WriteFault ops;
+        ops.failWriteAt = static_cast<long>(offset);
+        expectFailedSaveKeepsEverything(ops, EIO);
+        EXPECT_EQ(ops.bytesWritten, offset);
+    }
+}
+
+TEST_F(SafeSaveFaultLarge, ASaveOfSeveralChunksWritesTheSameBytesAsOneBuffer)
+{
+    writeBytes(path, previous);
+    FailingFileOps ops;
+    ScriptedUi ui;
+    ProgressSink quiet;
+    EXPECT_TRUE(saveProject(*doc, ui, quiet, ops).written());
+    EXPECT_EQ(readBytes(path), bytes);
+    EXPECT_EQ(ops.bytesWritten, bytes.size());
+    EXPECT_GE(static_cast<size_t>(ops.writebacksStarted), bytes.size() / ChunkWriter::ChunkSize);
+    EXPECT_EQ(folder.entries(), std::vector<std::string>{"game.dvb"});
 }
 
 // The whole of `fd`, read until its end.

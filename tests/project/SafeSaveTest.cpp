@@ -5,6 +5,9 @@
 
 #include <gtest/gtest.h>
 
+#include <cstring>
+#include <stdexcept>
+
 #include <sys/stat.h>
 
 namespace vorlane {
@@ -130,6 +133,47 @@ TEST_F(SafeSave, AFolderInTheWayIsReportedAndLeftAlone)
     EXPECT_FALSE(r.ok);
     EXPECT_EQ(r.reason, "Is a directory");
     EXPECT_EQ(folder.entries(), (std::vector<std::string>{"project.dvb", "taken.dvb"}));
+}
+
+TEST_F(SafeSave, ChunksAreWrittenAsTheyComeAndTheDeviceStartsOnEach)
+{
+    std::string expected;
+    const auto result = writeFileSafely(
+        target,
+        [&](ChunkSink &sink) {
+            for (int i = 0; i < 4; ++i) {
+                ByteBuffer chunk = sink.next(0);
+                const std::string piece = "piece " + std::to_string(i) + "\r\n";
+                std::memcpy(chunk.data(), piece.data(), piece.size());
+                chunk.setSize(piece.size());
+                sink.put(std::move(chunk));
+                expected += piece;
+            }
+        },
+        ops);
+    EXPECT_TRUE(result.ok);
+    EXPECT_EQ(readBytes(target), expected);
+    EXPECT_EQ(ops.writebacksStarted, 4);
+    EXPECT_EQ(folder.entries(), std::vector<std::string>{"project.dvb"});
+}
+
+TEST_F(SafeSave, AProducerThatThrowsLeavesTheOldFileAndNoTemporaryFile)
+{
+    const auto save = [&] {
+        writeFileSafely(
+            target,
+            [&](ChunkSink &sink) {
+                ByteBuffer chunk = sink.next(0);
+                std::memcpy(chunk.data(), "half", 4);
+                chunk.setSize(4);
+                sink.put(std::move(chunk));
+                throw std::out_of_range("no such slot");
+            },
+            ops);
+    };
+    EXPECT_THROW(save(), std::out_of_range);
+    EXPECT_EQ(ops.created.size(), 1u);
+    expectUntouched();
 }
 
 TEST(SafeSaveNames, FolderOfAPath)

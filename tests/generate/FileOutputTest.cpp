@@ -1,0 +1,92 @@
+#include "generate/FileOutput.h"
+
+#include "GenerateTestSupport.h"
+
+#include <gtest/gtest.h>
+
+#include <cstring>
+#include <filesystem>
+#include <stdexcept>
+#include <string>
+
+namespace vorlane {
+namespace {
+
+// Puts `pieces` chunks of `size` bytes each, the n-th filled with the letter 'a' + n.
+ChunkProducer letters(int pieces, std::size_t size)
+{
+    return [pieces, size](ChunkSink &sink) {
+        for (int i = 0; i < pieces; ++i) {
+            ByteBuffer chunk = sink.next(size);
+            std::memset(chunk.data(), 'a' + i, size);
+            chunk.setSize(size);
+            sink.put(std::move(chunk));
+        }
+    };
+}
+
+std::string expectedLetters(int pieces, std::size_t size)
+{
+    std::string bytes;
+    for (int i = 0; i < pieces; ++i)
+        bytes.append(size, static_cast<char>('a' + i));
+    return bytes;
+}
+
+TEST(DiskFileOutput, ChunksLandInTheFileInOrderReplacingWhatWasThere)
+{
+    testing::TempFolder folder;
+    const std::string path = (folder.path() / "sprite.dat").string();
+    testing::writeBytes(path, std::string(10u << 20, 'z'));
+    const std::size_t size = 700'000;
+    EXPECT_FALSE(diskFileOutput().writeChunked(path, letters(5, size)).has_value());
+    EXPECT_EQ(testing::readBytes(path), expectedLetters(5, size));
+}
+
+TEST(DiskFileOutput, AFullDeviceIsReportedInTheSystemsWords)
+{
+    if (!std::filesystem::exists("/dev/full"))
+        GTEST_SKIP() << "no /dev/full here";
+    const auto chunked = diskFileOutput().writeChunked("/dev/full", letters(3, 1u << 20));
+    ASSERT_TRUE(chunked.has_value());
+    EXPECT_EQ(*chunked, "No space left on device");
+    const auto whole = diskFileOutput().writeFile("/dev/full", std::string(100, 'x'));
+    ASSERT_TRUE(whole.has_value());
+    EXPECT_EQ(*whole, "No space left on device");
+}
+
+TEST(DiskFileOutput, AFileThatCannotBeOpenedIsReportedBeforeAnythingIsProduced)
+{
+    testing::TempFolder folder;
+    bool produced = false;
+    const auto failure = diskFileOutput().writeChunked(folder.path().string(),
+                                                       [&](ChunkSink &) { produced = true; });
+    ASSERT_TRUE(failure.has_value());
+    EXPECT_EQ(*failure, "Is a directory");
+    EXPECT_FALSE(produced);
+}
+
+TEST(DiskFileOutput, AProducerThatThrowsPassesTheExceptionOn)
+{
+    testing::TempFolder folder;
+    const std::string path = (folder.path() / "scene.dat").string();
+    EXPECT_THROW(diskFileOutput().writeChunked(path,
+                                               [](ChunkSink &sink) {
+                                                   letters(2, 1000)(sink);
+                                                   throw std::out_of_range("no such slot");
+                                               }),
+                 std::out_of_range);
+    // What was put before is in the file, written in place as engine files are.
+    EXPECT_EQ(testing::readBytes(path), expectedLetters(2, 1000));
+}
+
+// An output that only knows whole files gets the chunks joined.
+TEST(FileOutput, ChunksAreJoinedForAnOutputOfWholeFiles)
+{
+    testing::MemoryFiles files;
+    EXPECT_FALSE(files.writeChunked("out/text.dat", letters(4, 3000)).has_value());
+    EXPECT_EQ(files.files["out/text.dat"], expectedLetters(4, 3000));
+}
+
+} // namespace
+} // namespace vorlane

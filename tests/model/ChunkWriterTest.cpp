@@ -1,0 +1,144 @@
+#include "model/ChunkWriter.h"
+
+#include <gtest/gtest.h>
+
+#include <atomic>
+#include <cerrno>
+#include <cstring>
+#include <set>
+#include <string>
+
+namespace vorlane {
+namespace {
+
+// Fills a chunk from the writer with `piece` and puts it.
+void putPiece(ChunkWriter &writer, const std::string &piece)
+{
+    ByteBuffer chunk = writer.next(piece.size());
+    EXPECT_TRUE(chunk.empty());
+    EXPECT_GE(chunk.capacity(), piece.size());
+    if (!piece.empty())
+        std::memcpy(chunk.data(), piece.data(), piece.size());
+    chunk.setSize(piece.size());
+    writer.put(std::move(chunk));
+}
+
+TEST(ChunkWriter, WritesEveryChunkInTheOrderItWasPut)
+{
+    std::string file;
+    int written = 0;
+    std::string expected;
+    {
+        ChunkWriter writer(
+            [&](const char *data, std::size_t size) {
+                file.append(data, size);
+                return 0;
+            },
+            [&] { ++written; });
+        for (int i = 0; i < 20; ++i) {
+            const std::string piece = "chunk " + std::to_string(i) + "\r\n";
+            putPiece(writer, piece);
+            expected += piece;
+        }
+        EXPECT_EQ(writer.finish(), 0);
+    }
+    EXPECT_EQ(file, expected);
+    EXPECT_EQ(written, 20);
+}
+
+TEST(ChunkWriter, HandsOutTheSameFewChunksAgain)
+{
+    std::set<const char *> seen;
+    ChunkWriter writer([](const char *, std::size_t) { return 0; });
+    for (int i = 0; i < 30; ++i) {
+        ByteBuffer chunk = writer.next(10);
+        EXPECT_GE(chunk.capacity(), ChunkWriter::ChunkSize);
+        seen.insert(chunk.data());
+        chunk.setSize(1);
+        writer.put(std::move(chunk));
+    }
+    EXPECT_EQ(writer.finish(), 0);
+    EXPECT_LE(seen.size(), 3u);
+}
+
+TEST(ChunkWriter, AChunkLargerThanUsualHasRoomForWhatWasAskedFor)
+{
+    std::size_t total = 0;
+    ChunkWriter writer([&](const char *, std::size_t size) {
+        total += size;
+        return 0;
+    });
+    const std::string large(3 * ChunkWriter::ChunkSize + 5, 'L');
+    putPiece(writer, "small");
+    putPiece(writer, large);
+    putPiece(writer, "small again");
+    EXPECT_EQ(writer.finish(), 0);
+    EXPECT_EQ(total, 5 + large.size() + 11);
+}
+
+TEST(ChunkWriter, AfterTheFirstFailureNothingMoreIsWrittenAndTheFailureIsReported)
+{
+    int calls = 0;
+    int written = 0;
+    std::string file;
+    ChunkWriter writer(
+        [&](const char *data, std::size_t size) {
+            if (++calls == 2)
+                return ENOSPC;
+            file.append(data, size);
+            return 0;
+        },
+        [&] { ++written; });
+    for (int i = 0; i < 6; ++i)
+        putPiece(writer, "piece " + std::to_string(i) + ";");
+    EXPECT_EQ(writer.finish(), ENOSPC);
+    EXPECT_EQ(calls, 2);
+    EXPECT_EQ(written, 1);
+    EXPECT_EQ(file, "piece 0;");
+}
+
+TEST(ChunkWriter, EmptyChunksAreNotWritten)
+{
+    int calls = 0;
+    ChunkWriter writer([&](const char *, std::size_t) {
+        ++calls;
+        return 0;
+    });
+    putPiece(writer, "");
+    writer.put(ByteBuffer());
+    putPiece(writer, "x");
+    EXPECT_EQ(writer.finish(), 0);
+    EXPECT_EQ(calls, 1);
+}
+
+TEST(ChunkWriter, FinishingTwiceAndDestroyingAfterwardsIsHarmless)
+{
+    std::string file;
+    {
+        ChunkWriter writer([&](const char *data, std::size_t size) {
+            file.append(data, size);
+            return 0;
+        });
+        putPiece(writer, "once");
+        EXPECT_EQ(writer.finish(), 0);
+        EXPECT_EQ(writer.finish(), 0);
+    }
+    EXPECT_EQ(file, "once");
+}
+
+TEST(ChunkWriter, DestroyingWithoutFinishingStillWritesWhatWasPut)
+{
+    std::string file;
+    {
+        ChunkWriter writer([&](const char *data, std::size_t size) {
+            file.append(data, size);
+            return 0;
+        });
+        putPiece(writer, "left ");
+        putPiece(writer, "behind");
+    }
+    EXPECT_EQ(file, "left behind");
+}
+
+} // namespace
+} // namespace vorlane
