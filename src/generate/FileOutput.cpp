@@ -33,39 +33,61 @@ class DiskFileOutput final : public FileOutput
 public:
     std::optional<std::string> writeFile(const std::string &path, std::string_view bytes) override
     {
-        return writeWith(
-            path, [&](std::FILE *file) { return writeTo(file, bytes.data(), bytes.size()); });
-    }
-
-    std::optional<std::string> writeChunked(const std::string &path,
-                                            const ChunkProducer &produce) override
-    {
-        return writeWith(path, [&](std::FILE *file) {
-            ChunkWriter writer(
-                [file](const char *data, std::size_t size) { return writeTo(file, data, size); });
-            produce(writer);
-            return writer.finish();
-        });
-    }
-
-private:
-    // Creates or truncates `path`, lets `fill` write it and closes it; the file is closed
-    // however `fill` ends.
-    template<class Fill>
-    static std::optional<std::string> writeWith(const std::string &path, const Fill &fill)
-    {
         errno = 0;
         std::FILE *file = std::fopen(path.c_str(), "wb");
         if (!file)
             return reason(errno);
+        return closeAfter(file, writeTo(file, bytes.data(), bytes.size()));
+    }
+
+    // The file is opened by the writer thread, before its first chunk: truncating a large file
+    // that the device is still writing waits for the device, and meanwhile the producer goes
+    // on, with chunks enough to hold most of an engine file.
+    std::optional<std::string> writeChunked(const std::string &path,
+                                            const ChunkProducer &produce) override
+    {
+        std::FILE *file = nullptr;
+        const auto open = [&] {
+            errno = 0;
+            file = std::fopen(path.c_str(), "wb");
+            return file ? 0 : errno != 0 ? errno : EIO;
+        };
         int error = 0;
-        try {
-            error = fill(file);
-        } catch (...) {
-            std::fclose(file);
-            throw;
+        {
+            ChunkWriter writer(
+                [&](const char *data, std::size_t size) {
+                    if (!file) {
+                        if (const int openError = open(); openError != 0)
+                            return openError;
+                    }
+                    return writeTo(file, data, size);
+                },
+                {},
+                EngineFileChunks);
+            try {
+                produce(writer);
+            } catch (...) {
+                writer.finish();
+                if (file)
+                    std::fclose(file);
+                throw;
+            }
+            error = writer.finish();
         }
-        // Closing flushes the last bytes, so its failure is a failed write too.
+        if (!file && error == 0)
+            error = open(); // nothing was produced: the file is made empty
+        if (!file)
+            return reason(error);
+        return closeAfter(file, error);
+    }
+
+private:
+    static constexpr int EngineFileChunks = 16;
+
+    // Closes `file` after writing it ended with `error`; closing flushes the last bytes, so
+    // its failure is a failed write too.
+    static std::optional<std::string> closeAfter(std::FILE *file, int error)
+    {
         errno = 0;
         if (std::fclose(file) != 0 && error == 0)
             error = errno != 0 ? errno : EIO;

@@ -5,16 +5,10 @@
 
 namespace vorlane {
 
-namespace {
-
-// Chunks in all: one being filled, one being written, one waiting between them.
-constexpr int MaxChunks = 3;
-
-} // namespace
-
-ChunkWriter::ChunkWriter(WriteAll writeAll, Written written)
+ChunkWriter::ChunkWriter(WriteAll writeAll, Written written, int maxChunks)
     : m_writeAll(std::move(writeAll))
     , m_written(std::move(written))
+    , m_maxChunks(std::max(maxChunks, 1))
     , m_thread([this] { run(); })
 {}
 
@@ -28,7 +22,7 @@ ByteBuffer ChunkWriter::next(std::size_t room)
     ByteBuffer chunk;
     {
         std::unique_lock lock(m_mutex);
-        if (!m_free.empty() || m_chunks == MaxChunks) {
+        if (!m_free.empty() || m_chunks >= m_maxChunks) {
             m_changed.wait(lock, [this] { return !m_free.empty(); });
             chunk = std::move(m_free.back());
             m_free.pop_back();

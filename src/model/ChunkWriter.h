@@ -15,7 +15,8 @@ namespace vorlane {
 // Writes the chunks a producer puts to a file, on a thread of its own, so that the system's
 // copying of one chunk overlaps the producing of the next. It keeps a few chunks and hands
 // them out again in turn, so the producer fills memory that is already mapped and still in
-// the processor's caches. After the first failed write it writes nothing more.
+// the processor's caches; when all are waiting to be written, the producer waits. After the
+// first failed write it writes nothing more. The producer holds one chunk at a time.
 class ChunkWriter final : public ChunkSink
 {
 public:
@@ -26,7 +27,10 @@ public:
     // Called after each chunk written.
     using Written = std::function<void()>;
 
-    explicit ChunkWriter(WriteAll writeAll, Written written = {});
+    // Chunks in all by default: one being filled, one being written, one waiting between.
+    static constexpr int DefaultChunks = 3;
+
+    explicit ChunkWriter(WriteAll writeAll, Written written = {}, int maxChunks = DefaultChunks);
     ~ChunkWriter() override;
     ChunkWriter(const ChunkWriter &) = delete;
     ChunkWriter &operator=(const ChunkWriter &) = delete;
@@ -43,6 +47,7 @@ private:
 
     const WriteAll m_writeAll;
     const Written m_written;
+    const int m_maxChunks;
     std::mutex m_mutex;
     std::condition_variable m_changed;
     std::deque<ByteBuffer> m_full;  // put, not written yet

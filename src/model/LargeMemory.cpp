@@ -54,7 +54,7 @@ void *allocateLarge(std::size_t size)
 {
     const std::size_t mapped = blockSize(size);
 #ifdef VORLANE_CHECKED_MEMORY
-    return ::operator new(mapped);
+    return std::memset(::operator new(mapped), 0, mapped);
 #endif
     if (mapped < HugePage)
         return mapAnonymous(mapped);

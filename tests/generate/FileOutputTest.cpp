@@ -55,15 +55,28 @@ TEST(DiskFileOutput, AFullDeviceIsReportedInTheSystemsWords)
     EXPECT_EQ(*whole, "No space left on device");
 }
 
-TEST(DiskFileOutput, AFileThatCannotBeOpenedIsReportedBeforeAnythingIsProduced)
+TEST(DiskFileOutput, AFileThatCannotBeOpenedIsReportedInTheSystemsWords)
 {
     testing::TempFolder folder;
-    bool produced = false;
-    const auto failure = diskFileOutput().writeChunked(folder.path().string(),
-                                                       [&](ChunkSink &) { produced = true; });
+    const auto failure =
+        diskFileOutput().writeChunked(folder.path().string(), letters(20, 1u << 20));
     ASSERT_TRUE(failure.has_value());
     EXPECT_EQ(*failure, "Is a directory");
-    EXPECT_FALSE(produced);
+    const auto missing = diskFileOutput().writeChunked(
+        (folder.path() / "missing" / "text.dat").string(), letters(1, 10));
+    ASSERT_TRUE(missing.has_value());
+    EXPECT_EQ(*missing, "No such file or directory");
+}
+
+TEST(DiskFileOutput, NothingProducedMakesAnEmptyFile)
+{
+    testing::TempFolder folder;
+    const std::string path = (folder.path() / "font.dat").string();
+    testing::writeBytes(path, "old");
+    EXPECT_FALSE(diskFileOutput().writeChunked(path, [](ChunkSink &) {}).has_value());
+    EXPECT_EQ(testing::readBytes(path), "");
+    EXPECT_FALSE(diskFileOutput().writeChunked(path, letters(0, 1)).has_value());
+    EXPECT_TRUE(std::filesystem::exists(path));
 }
 
 TEST(DiskFileOutput, AProducerThatThrowsPassesTheExceptionOn)
