@@ -82,7 +82,7 @@ public:
     }
 
 private:
-    static constexpr int EngineFileChunks = 16;
+    static constexpr int EngineFileChunks = 8;
 
     // Closes `file` after writing it ended with `error`; closing flushes the last bytes, so
     // its failure is a failed write too.

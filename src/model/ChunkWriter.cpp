@@ -9,7 +9,6 @@ ChunkWriter::ChunkWriter(WriteAll writeAll, Written written, int maxChunks)
     : m_writeAll(std::move(writeAll))
     , m_written(std::move(written))
     , m_maxChunks(std::max(maxChunks, 1))
-    , m_thread([this] { run(); })
 {}
 
 ChunkWriter::~ChunkWriter()
@@ -19,6 +18,10 @@ ChunkWriter::~ChunkWriter()
 
 ByteBuffer ChunkWriter::next(std::size_t room)
 {
+    // A file of one chunk is written by finish(), without a thread: the thread starts when
+    // a second chunk is asked for.
+    if (!m_thread.joinable() && m_putCount > 0)
+        m_thread = std::thread([this] { run(); });
     ByteBuffer chunk;
     {
         std::unique_lock lock(m_mutex);
@@ -30,13 +33,15 @@ ByteBuffer ChunkWriter::next(std::size_t room)
             ++m_chunks; // made below, outside the lock
         }
     }
+    // The first chunk is small, as most files are; the next ones are a huge page each.
     chunk.clear();
-    chunk.reserve(std::max(room, ChunkSize));
+    chunk.reserve(std::max(room, m_putCount == 0 ? FirstChunkSize : ChunkSize));
     return chunk;
 }
 
 void ChunkWriter::put(ByteBuffer full)
 {
+    ++m_putCount;
     {
         std::lock_guard lock(m_mutex);
         if (full.empty())
@@ -56,6 +61,8 @@ int ChunkWriter::finish()
     m_changed.notify_all();
     if (m_thread.joinable())
         m_thread.join();
+    else
+        run(); // what is left, on this thread
     return m_error;
 }
 

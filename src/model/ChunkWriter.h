@@ -13,14 +13,17 @@
 namespace vorlane {
 
 // Writes the chunks a producer puts to a file, on a thread of its own, so that the system's
-// copying of one chunk overlaps the producing of the next. It keeps a few chunks and hands
+// copying of one chunk overlaps the producing of the next; a file of one chunk is written
+// when the producer finishes, on its thread. It keeps a few chunks and hands
 // them out again in turn, so the producer fills memory that is already mapped and still in
 // the processor's caches; when all are waiting to be written, the producer waits. After the
 // first failed write it writes nothing more. The producer holds one chunk at a time.
 class ChunkWriter final : public ChunkSink
 {
 public:
-    static constexpr std::size_t ChunkSize = std::size_t{1} << 20;
+    // The room of the first chunk, and of the later ones: one huge page (model/LargeMemory.h).
+    static constexpr std::size_t FirstChunkSize = std::size_t{64} << 10;
+    static constexpr std::size_t ChunkSize = std::size_t{2} << 20;
 
     // Writes `size` bytes at `data` to the file; 0, or the errno value of the failure.
     using WriteAll = std::function<int(const char *data, std::size_t size)>;
@@ -53,9 +56,10 @@ private:
     std::deque<ByteBuffer> m_full;  // put, not written yet
     std::vector<ByteBuffer> m_free; // written, ready to be handed out again
     int m_chunks = 0;               // made so far
+    int m_putCount = 0;             // chunks put, counted by the producer's thread
     int m_error = 0;
     bool m_finished = false;
-    std::thread m_thread; // last: it starts once everything above is ready
+    std::thread m_thread; // started by the producer's thread, in next()
 };
 
 } // namespace vorlane

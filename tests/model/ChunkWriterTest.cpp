@@ -7,6 +7,8 @@
 #include <cstring>
 #include <set>
 #include <string>
+#include <thread>
+#include <vector>
 
 namespace vorlane {
 namespace {
@@ -52,13 +54,57 @@ TEST(ChunkWriter, HandsOutTheSameFewChunksAgain)
     ChunkWriter writer([](const char *, std::size_t) { return 0; });
     for (int i = 0; i < 30; ++i) {
         ByteBuffer chunk = writer.next(10);
-        EXPECT_GE(chunk.capacity(), ChunkWriter::ChunkSize);
-        seen.insert(chunk.data());
+        EXPECT_GE(chunk.capacity(), i == 0 ? ChunkWriter::FirstChunkSize : ChunkWriter::ChunkSize);
+        if (i > 0) // the small first chunk grows to a full one when it comes back
+            seen.insert(chunk.data());
         chunk.setSize(1);
         writer.put(std::move(chunk));
     }
     EXPECT_EQ(writer.finish(), 0);
     EXPECT_LE(seen.size(), 3u);
+}
+
+TEST(ChunkWriter, AFileOfOneChunkIsWrittenWithoutAThreadALargerOneOnItsOwn)
+{
+    std::vector<std::thread::id> writers;
+    const auto record = [&](const char *, std::size_t) {
+        writers.push_back(std::this_thread::get_id());
+        return 0;
+    };
+    {
+        ChunkWriter writer(record);
+        putPiece(writer, "small");
+        EXPECT_EQ(writer.finish(), 0);
+    }
+    ASSERT_EQ(writers.size(), 1u);
+    EXPECT_EQ(writers[0], std::this_thread::get_id());
+
+    writers.clear();
+    {
+        ChunkWriter writer(record);
+        putPiece(writer, "first");
+        putPiece(writer, "second");
+        EXPECT_EQ(writer.finish(), 0);
+    }
+    ASSERT_EQ(writers.size(), 2u);
+    EXPECT_NE(writers[0], std::this_thread::get_id());
+    EXPECT_EQ(writers[1], writers[0]);
+}
+
+TEST(ChunkWriter, KeepsNoMoreChunksThanItWasGiven)
+{
+    std::set<const char *> seen;
+    ChunkWriter writer([](const char *, std::size_t) { return 0; }, {}, 5);
+    for (int i = 0; i < 40; ++i) {
+        ByteBuffer chunk = writer.next(10);
+        if (i > 0)
+            seen.insert(chunk.data());
+        chunk.setSize(1);
+        writer.put(std::move(chunk));
+    }
+    EXPECT_EQ(writer.finish(), 0);
+    EXPECT_LE(seen.size(), 5u);
+    EXPECT_GE(seen.size(), 1u);
 }
 
 TEST(ChunkWriter, AChunkLargerThanUsualHasRoomForWhatWasAskedFor)

@@ -149,7 +149,7 @@ protected:
     void SetUp() override
     {
         SafeSaveFault::SetUp();
-        for (int slot = 0; slot < 60; ++slot) {
+        for (int slot = 0; slot < 120; ++slot) {
             listObject(*doc, Kind::Sprite, slot, "spr" + std::to_string(slot));
             SpriteRec &sprite = doc->Sprites[static_cast<size_t>(slot)];
             sprite.animCount = SubSlotCount;
