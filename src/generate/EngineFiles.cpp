@@ -171,7 +171,7 @@ void writeFrames(Line &line, const std::array<FrameRec, SubSlotCount> &frames)
     if constexpr (Line::writes) {
         for (const FrameRec &frame : frames)
             if (isSet(frame.inUse))
-                line.number(frame.cell).end();
+                line.numberLine(frame.cell);
     } else {
         // Measured as if every slot were used: a maximal project has two million frames, and
         // scanning them twice would cost more than the few bytes this leaves unused.

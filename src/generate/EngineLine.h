@@ -50,6 +50,25 @@ public:
         }
         return *this;
     }
+    // A whole line holding `value` alone, in the number form; at the start of a line. The
+    // same as number(value).end() in one step: sprite.dat holds a line like this per frame.
+    void numberLine(int32_t value)
+    {
+        char *p = m_pos;
+        *p++ = value < 0 ? '-' : ' ';
+        const uint32_t magnitude =
+            value < 0 ? 0u - static_cast<uint32_t>(value) : static_cast<uint32_t>(value);
+        if (magnitude < SmallNumbers) {
+            const SmallNumber &digits = SmallNumberTable[magnitude];
+            std::memcpy(p, digits.text, 4);
+            p += digits.length;
+        } else {
+            p = std::to_chars(p, p + 10, magnitude).ptr;
+        }
+        p[0] = '\r';
+        p[1] = '\n';
+        m_pos = p + 2;
+    }
     // A text as it stands, without quotes or escaping.
     EngineLine &text(std::string_view utf8)
     {

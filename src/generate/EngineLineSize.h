@@ -25,6 +25,11 @@ public:
     EngineLineSize &joint() { return *this; }
     void endStarred(std::string_view utf8) { add(4 + utf8.size()); }
     void end() { add(2); }
+    void numberLine(int32_t value)
+    {
+        number(value);
+        end();
+    }
     void countLine(std::size_t) { add(14); }
     // Room for `count` lines holding one 16-bit number each.
     void numberLines(std::size_t count) { add(count * 9); }

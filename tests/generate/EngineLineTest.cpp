@@ -63,6 +63,25 @@ TEST(EngineLine, ShortNumbersAtTheEndOfTheBuffer)
     EXPECT_EQ(lines([](auto &l) { l.text("a").number(7); }), "a  7");
 }
 
+TEST(EngineLine, NumberLineIsANumberAloneOnItsLine)
+{
+    for (const int32_t value :
+         {0, 7, 42, 9999, 10000, 32767, -1, -9999, -10000, -32768, 2147483647, -2147483647 - 1}) {
+        SCOPED_TRACE(value);
+        const std::string alone = lines([&](auto &l) { l.numberLine(value); });
+        EXPECT_EQ(alone, lines([&](auto &l) { l.number(value).end(); }));
+        EXPECT_EQ(alone,
+                  (value < 0 ? "-" : " ") + std::to_string(value < 0 ? -int64_t{value} : value) +
+                      "\r\n");
+    }
+    EXPECT_EQ(lines([](auto &l) {
+                  l.numberLine(3);
+                  l.numberLine(-4);
+                  l.number(5).number(6).end();
+              }),
+              " 3\r\n-4\r\n 5  6\r\n");
+}
+
 TEST(EngineLine, TextsStandAsTheyAreJoinedByOneBlank)
 {
     EXPECT_EQ(lines([](auto &l) { l.text("id").text("a path").number(3).end(); }),
