@@ -79,7 +79,8 @@ void freeLarge(void *data, std::size_t size) noexcept
     if (!data)
         return;
 #ifdef VORLANE_CHECKED_MEMORY
-    ::operator delete(data, blockSize(size));
+    (void)size;
+    ::operator delete(data);
 #else
     ::munmap(data, blockSize(size));
 #endif
