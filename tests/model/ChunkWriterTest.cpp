@@ -25,18 +25,22 @@ void putPiece(ChunkWriter &writer, const std::string &piece)
     writer.put(std::move(chunk));
 }
 
+// Writes into `file`.
+ChunkWriter::WriteAll appendingTo(std::string &file)
+{
+    return [&file](const char *data, std::size_t size) {
+        file.append(data, size);
+        return 0;
+    };
+}
+
 TEST(ChunkWriter, WritesEveryChunkInTheOrderItWasPut)
 {
     std::string file;
     int written = 0;
     std::string expected;
     {
-        ChunkWriter writer(
-            [&](const char *data, std::size_t size) {
-                file.append(data, size);
-                return 0;
-            },
-            [&] { ++written; });
+        ChunkWriter writer(appendingTo(file), [&] { ++written; });
         for (int i = 0; i < 20; ++i) {
             const std::string piece = "chunk " + std::to_string(i) + "\r\n";
             putPiece(writer, piece);
@@ -161,10 +165,7 @@ TEST(ChunkWriter, FinishingTwiceAndDestroyingAfterwardsIsHarmless)
 {
     std::string file;
     {
-        ChunkWriter writer([&](const char *data, std::size_t size) {
-            file.append(data, size);
-            return 0;
-        });
+        ChunkWriter writer(appendingTo(file));
         putPiece(writer, "once");
         EXPECT_EQ(writer.finish(), 0);
         EXPECT_EQ(writer.finish(), 0);
@@ -176,10 +177,7 @@ TEST(ChunkWriter, DestroyingWithoutFinishingStillWritesWhatWasPut)
 {
     std::string file;
     {
-        ChunkWriter writer([&](const char *data, std::size_t size) {
-            file.append(data, size);
-            return 0;
-        });
+        ChunkWriter writer(appendingTo(file));
         putPiece(writer, "left ");
         putPiece(writer, "behind");
     }

@@ -407,17 +407,24 @@ TEST(ProjectReader, MismatchedAnimCountIsMisreadIntoTheNextLines)
     EXPECT_EQ(reopened->list(Kind::Sprite).lines.size(), 0u);
 }
 
+// Lists sprite `id` in slot 0 with one animation, "walk", and returns the animation.
+AnimRec &listSpriteWithOneAnimation(Document &doc, const std::string &id)
+{
+    listObject(doc, Kind::Sprite, 0, id);
+    SpriteRec &sprite = doc.Sprites[0];
+    sprite.animCount = 1;
+    AnimRec &anim = sprite.anims[0];
+    anim.inUse = -1;
+    anim.id = "walk";
+    return anim;
+}
+
 // The project file of one sprite whose one animation has the cell lines `cells`, each with
 // its own line end; the line of the first cell is the file's line 16.
 std::string fileWithCellLines(const std::vector<std::string> &cells)
 {
     auto doc = makeDocument();
-    listObject(*doc, Kind::Sprite, 0, "sprA");
-    SpriteRec &sprite = doc->Sprites[0];
-    sprite.animCount = 1;
-    AnimRec &anim = sprite.anims[0];
-    anim.inUse = -1;
-    anim.id = "walk";
+    AnimRec &anim = listSpriteWithOneAnimation(*doc, "sprA");
     anim.frameCount = static_cast<int16_t>(cells.size());
     for (size_t i = 0; i < cells.size(); ++i)
         anim.frames[i] = {-1, static_cast<int16_t>(1000 + i)};
@@ -506,12 +513,7 @@ TEST(ProjectReader, MismatchedFrameCountShiftsLaterValuesWithoutNotice)
     // later value moves up by one field, and the last log line is left over. The file reads
     // "successfully" with wrong values.
     auto doc = makeDocument();
-    listObject(*doc, Kind::Sprite, 0, "spr");
-    SpriteRec &s = doc->Sprites[0];
-    s.animCount = 1;
-    AnimRec &a = s.anims[0];
-    a.inUse = -1;
-    a.id = "walk";
+    AnimRec &a = listSpriteWithOneAnimation(*doc, "spr");
     a.frameCount = 1;
     a.frames[0] = {-1, 5};
     a.frames[1] = {-1, 6};
