@@ -352,7 +352,7 @@ TEST_F(DataFiles, ALargeFileArrivesInChunksThatJoinToTheWholeFile)
     for (int16_t slot = 0; slot < 40; ++slot) {
         auto &t = addObject(*doc, Kind::Text, doc->Texts, slot, "txt" + std::to_string(slot));
         t.content =
-            std::string(static_cast<size_t>(100 + slot), static_cast<char>('a' + slot % 26));
+            std::string(static_cast<size_t>(400 + slot), static_cast<char>('a' + slot % 26));
     }
     SmallChunks sink(5000);
     int records = 0;
