@@ -67,7 +67,7 @@ public:
             try {
                 produce(writer);
             } catch (...) {
-                writer.finish();
+                writer.abandon(); // an engine file not yet opened is left as it was
                 if (file)
                     std::fclose(file);
                 throw;

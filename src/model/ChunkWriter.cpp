@@ -1,6 +1,7 @@
 #include "model/ChunkWriter.h"
 
 #include <algorithm>
+#include <system_error>
 #include <utility>
 
 namespace vorlane {
@@ -9,19 +10,30 @@ ChunkWriter::ChunkWriter(WriteAll writeAll, Written written, int maxChunks)
     : m_writeAll(std::move(writeAll))
     , m_written(std::move(written))
     , m_maxChunks(std::max(maxChunks, 1))
-{}
+{
+    // The writer thread hands chunks back without allocating.
+    m_free.reserve(static_cast<std::size_t>(m_maxChunks));
+}
 
+// Without finish() the producer did not get to the end (it threw): what it put and is not
+// written yet is dropped.
 ChunkWriter::~ChunkWriter()
 {
-    finish();
+    abandon();
 }
 
 ByteBuffer ChunkWriter::next(std::size_t room)
 {
     // A file of one chunk is written by finish(), without a thread: the thread starts when
     // a second chunk is asked for.
-    if (!m_thread.joinable() && m_putCount > 0)
-        m_thread = std::thread([this] { run(); });
+    if (!m_thread.joinable() && !m_inline && m_putCount > 0) {
+        try {
+            m_thread = std::thread([this] { run(true); });
+        } catch (const std::system_error &) {
+            m_inline = true; // no thread to be had: put() writes each chunk itself
+            run(false);
+        }
+    }
     ByteBuffer chunk;
     {
         std::unique_lock lock(m_mutex);
@@ -42,6 +54,8 @@ ByteBuffer ChunkWriter::next(std::size_t room)
 void ChunkWriter::put(ByteBuffer full)
 {
     ++m_putCount;
+    if (full.capacity() == 0)
+        return; // no chunk of this writer
     {
         std::lock_guard lock(m_mutex);
         if (full.empty())
@@ -50,6 +64,8 @@ void ChunkWriter::put(ByteBuffer full)
             m_full.push_back(std::move(full));
     }
     m_changed.notify_all();
+    if (m_inline)
+        run(false);
 }
 
 int ChunkWriter::finish()
@@ -62,23 +78,33 @@ int ChunkWriter::finish()
     if (m_thread.joinable())
         m_thread.join();
     else
-        run(); // what is left, on this thread
+        run(false); // what is left, on this thread
     return m_error;
 }
 
-void ChunkWriter::run()
+void ChunkWriter::abandon()
+{
+    {
+        std::lock_guard lock(m_mutex);
+        m_abandoned = true;
+    }
+    finish();
+}
+
+void ChunkWriter::run(bool wait)
 {
     std::unique_lock lock(m_mutex);
     for (;;) {
-        m_changed.wait(lock, [this] { return !m_full.empty() || m_finished; });
+        if (wait)
+            m_changed.wait(lock, [this] { return !m_full.empty() || m_finished; });
         if (m_full.empty())
             return;
         ByteBuffer chunk = std::move(m_full.front());
         m_full.pop_front();
-        const bool failed = m_error != 0;
+        const bool skip = m_error != 0 || m_abandoned;
         lock.unlock();
-        const int error = failed ? 0 : m_writeAll(chunk.data(), chunk.size());
-        if (!failed && error == 0 && m_written)
+        const int error = skip ? 0 : m_writeAll(chunk.data(), chunk.size());
+        if (!skip && error == 0 && m_written)
             m_written();
         lock.lock();
         if (error != 0)

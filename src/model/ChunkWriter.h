@@ -14,7 +14,8 @@ namespace vorlane {
 
 // Writes the chunks a producer puts to a file, on a thread of its own, so that the system's
 // copying of one chunk overlaps the producing of the next; a file of one chunk is written
-// when the producer finishes, on its thread. It keeps a few chunks and hands
+// when the producer finishes, on its thread, and so is every chunk when the system has no
+// thread to give. It keeps a few chunks and hands
 // them out again in turn, so the producer fills memory that is already mapped and still in
 // the processor's caches; when all are waiting to be written, the producer waits. After the
 // first failed write it writes nothing more. The producer holds one chunk at a time.
@@ -39,14 +40,19 @@ public:
     ChunkWriter &operator=(const ChunkWriter &) = delete;
 
     ByteBuffer next(std::size_t room) override;
+    // `full` is a chunk from next().
     void put(ByteBuffer full) override;
 
     // Waits until every chunk put is written; 0, or the errno value of the first write that
     // failed.
     int finish();
+    // Writes nothing more: the chunks not yet written are dropped. For a producer that failed;
+    // destroying the writer does the same.
+    void abandon();
 
 private:
-    void run();
+    // Writes the chunks put, in order; with `wait`, waits for more until finish().
+    void run(bool wait);
 
     const WriteAll m_writeAll;
     const Written m_written;
@@ -59,7 +65,9 @@ private:
     int m_putCount = 0;             // chunks put, counted by the producer's thread
     int m_error = 0;
     bool m_finished = false;
-    std::thread m_thread; // started by the producer's thread, in next()
+    bool m_abandoned = false;
+    bool m_inline = false; // no thread: put() writes each chunk itself
+    std::thread m_thread;  // started by the producer's thread, in next()
 };
 
 } // namespace vorlane

@@ -54,7 +54,10 @@ void *allocateLarge(std::size_t size)
 {
     const std::size_t mapped = blockSize(size);
 #ifdef VORLANE_CHECKED_MEMORY
-    return std::memset(::operator new(mapped), 0, mapped);
+    void *checked = ::operator new(mapped, std::nothrow);
+    if (!checked)
+        throw std::bad_alloc();
+    return std::memset(checked, 0, mapped);
 #endif
     if (mapped < HugePage)
         return mapAnonymous(mapped);

@@ -4,6 +4,7 @@
 
 #include <cerrno>
 #include <cstdio>
+#include <new>
 
 #include <fcntl.h>
 #include <sys/stat.h>
@@ -40,10 +41,22 @@ int SystemFileOps::readAll(const std::string &path, ByteBuffer &bytes)
     // One read into a buffer of the file's size; a file that grows meanwhile is read on until
     // its end.
     bytes.clear();
-    bytes.reserve(static_cast<size_t>(info.st_size) + 1);
+    // A file too large for the memory there is is reported like any unreadable file.
+    const auto makeRoom = [&bytes](size_t size) {
+        try {
+            bytes.reserve(size);
+            return true;
+        } catch (const std::bad_alloc &) {
+            return false;
+        }
+    };
+    if (!makeRoom(static_cast<size_t>(info.st_size) + 1))
+        return closeKeepingError(handle, ENOMEM);
     for (;;) {
-        if (bytes.size() == bytes.capacity())
-            bytes.reserve(bytes.capacity() * 2);
+        if (bytes.size() == bytes.capacity() && !makeRoom(bytes.capacity() * 2)) {
+            bytes.clear();
+            return closeKeepingError(handle, ENOMEM);
+        }
         const ssize_t n =
             ::read(handle, bytes.data() + bytes.size(), bytes.capacity() - bytes.size());
         if (n < 0) {

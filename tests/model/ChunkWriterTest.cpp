@@ -173,15 +173,25 @@ TEST(ChunkWriter, FinishingTwiceAndDestroyingAfterwardsIsHarmless)
     EXPECT_EQ(file, "once");
 }
 
-TEST(ChunkWriter, DestroyingWithoutFinishingStillWritesWhatWasPut)
+TEST(ChunkWriter, DestroyingWithoutFinishingDropsWhatIsNotWrittenYet)
 {
     std::string file;
     {
         ChunkWriter writer(appendingTo(file));
-        putPiece(writer, "left ");
-        putPiece(writer, "behind");
+        putPiece(writer, "never written");
     }
-    EXPECT_EQ(file, "left behind");
+    EXPECT_EQ(file, "");
+
+    {
+        ChunkWriter writer(appendingTo(file));
+        for (int i = 0; i < 10; ++i)
+            putPiece(writer, std::to_string(i));
+        writer.abandon();
+        // What the thread wrote before stays, in order; nothing after it.
+        EXPECT_EQ(std::string("0123456789").substr(0, file.size()), file);
+        EXPECT_EQ(writer.finish(), 0);
+    }
+    EXPECT_LE(file.size(), 10u);
 }
 
 } // namespace

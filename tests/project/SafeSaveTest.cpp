@@ -159,21 +159,29 @@ TEST_F(SafeSave, ChunksAreWrittenAsTheyComeAndTheDeviceStartsOnEach)
 
 TEST_F(SafeSave, AProducerThatThrowsLeavesTheOldFileAndNoTemporaryFile)
 {
-    const auto save = [&] {
-        writeFileSafely(
-            target,
-            [&](ChunkSink &sink) {
-                ByteBuffer chunk = sink.next(0);
-                std::memcpy(chunk.data(), "half", 4);
-                chunk.setSize(4);
-                sink.put(std::move(chunk));
-                throw std::out_of_range("no such slot");
-            },
-            ops);
-    };
-    EXPECT_THROW(save(), std::out_of_range);
-    EXPECT_EQ(ops.created.size(), 1u);
-    expectUntouched();
+    // After one chunk (written when the producer would finish) and after several (written on
+    // the writer's thread while it goes on).
+    for (const int chunks : {1, 4}) {
+        SCOPED_TRACE(chunks);
+        FailingFileOps failing;
+        const auto save = [&] {
+            writeFileSafely(
+                target,
+                [&](ChunkSink &sink) {
+                    for (int i = 0; i < chunks; ++i) {
+                        ByteBuffer chunk = sink.next(1u << 20);
+                        std::memset(chunk.data(), 'h', 1u << 20);
+                        chunk.setSize(1u << 20);
+                        sink.put(std::move(chunk));
+                    }
+                    throw std::out_of_range("no such slot");
+                },
+                failing);
+        };
+        EXPECT_THROW(save(), std::out_of_range);
+        EXPECT_EQ(failing.created.size(), 1u);
+        expectUntouched();
+    }
 }
 
 TEST(SafeSaveNames, FolderOfAPath)
