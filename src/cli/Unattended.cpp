@@ -5,6 +5,7 @@
 
 #include <future>
 #include <ostream>
+#include <system_error>
 
 namespace vorlane {
 
@@ -18,12 +19,17 @@ class ReadAhead final : public SystemFileOps
 public:
     explicit ReadAhead(const std::string &path)
         : m_path(path)
-        , m_reading(std::async(std::launch::async, [path] {
-            Read read;
-            read.error = SystemFileOps().readAll(path, read.bytes);
-            return read;
-        }))
-    {}
+    {
+        try {
+            m_reading = std::async(std::launch::async, [path] {
+                Read read;
+                read.error = SystemFileOps().readAll(path, read.bytes);
+                return read;
+            });
+        } catch (const std::system_error &) {
+            // No thread to be had: the file is read when Open asks for it.
+        }
+    }
 
     int readAll(const std::string &path, ByteBuffer &bytes) override
     {
