@@ -486,6 +486,29 @@ TEST(ProjectReader, DamagedCellLinesNameTheirLine)
     }
 }
 
+TEST(ProjectReader, AFileCutShortAmongTheCellLinesNamesTheLineOfTheMissingCell)
+{
+    const std::string file = fileWithCellLines({"1\r\n", "23\r\n", "4\r\n", "5\r\n"});
+    const size_t third = file.find("\r\n4\r\n") + 2;
+    const std::vector<std::pair<std::string, std::string>> cases = {
+        // After a whole cell line, after a cell without its line end, and inside a line end.
+        {file.substr(0, third),
+         "project.dvb:18: the file ends where a number was expected for cell"},
+        {file.substr(0, third + 1),
+         "project.dvb:18: the file ends where a number was expected for cell"},
+        {file.substr(0, third + 2),
+         "project.dvb:18: the file ends where a number was expected for cell"},
+    };
+    for (const auto &[bytes, expected] : cases) {
+        SCOPED_TRACE(bytes.substr(bytes.size() - 8));
+        auto doc = makeDocument();
+        const ProjectReadResult r = readProject(bytes, *doc);
+        ASSERT_EQ(r.status, ProjectReadResult::Status::Damaged);
+        EXPECT_EQ(damageText("project.dvb", r.line, r.message), expected);
+        EXPECT_EQ(doc->Sprites[0].anims[0].frames[1].cell, 23);
+    }
+}
+
 TEST(ProjectReader, MismatchedLayerCountIsMisreadIntoTheLogLines)
 {
     // layerCount says 1 but two layers are used: the second layer's line is read where the
