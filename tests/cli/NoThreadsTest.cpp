@@ -16,25 +16,6 @@ namespace {
 
 using namespace testsupport;
 
-// A project of a few megabytes: its project file and its sprite.dat take several chunks.
-std::unique_ptr<Document> severalMegabytes()
-{
-    auto doc = makeDocument();
-    for (int slot = 0; slot < 40; ++slot) {
-        listObject(*doc, Kind::Sprite, slot, "spr" + std::to_string(slot));
-        SpriteRec &sprite = doc->Sprites[static_cast<size_t>(slot)];
-        sprite.animCount = SubSlotCount;
-        for (AnimRec &anim : sprite.anims) {
-            anim.inUse = -1;
-            anim.id = "anim";
-            anim.frameCount = SubSlotCount;
-            for (FrameRec &frame : anim.frames)
-                frame = {-1, static_cast<int16_t>(100 + slot)};
-        }
-    }
-    return doc;
-}
-
 // Runs vorlane-cli with `arguments` (already quoted) on a system without threads; its exit code.
 int runWithoutThreads(const std::string &arguments, const std::string &errFile)
 {
@@ -48,7 +29,9 @@ int runWithoutThreads(const std::string &arguments, const std::string &errFile)
 TEST(NoThreads, ConvertAndGenerateStillWriteEveryByte)
 {
     TempFolder folder;
-    auto doc = severalMegabytes();
+    // A project of a few megabytes: its project file and its sprite.dat take several chunks.
+    auto doc = makeDocument();
+    listFullSprites(*doc, 40, 100);
     doc->ProjectInfo.projectFilePath = folder.file("in.dvb");
     writeBytes(folder.file("in.dvb"), projectFileBytes(*doc).str());
 

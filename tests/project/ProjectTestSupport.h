@@ -155,6 +155,24 @@ inline void listObject(Document &doc, Kind kind, int slot, const std::string &id
     doc.list(kind).lines.push_back({id, static_cast<int16_t>(slot)});
 }
 
+// Lists `count` sprites with every animation and frame slot used, the cells of sprite n all
+// `firstCell` + n: some 60 kB of project file per sprite.
+inline void listFullSprites(Document &doc, int count, int firstCell)
+{
+    for (int slot = 0; slot < count; ++slot) {
+        listObject(doc, Kind::Sprite, slot, "spr" + std::to_string(slot));
+        SpriteRec &sprite = doc.Sprites[static_cast<size_t>(slot)];
+        sprite.animCount = SubSlotCount;
+        for (AnimRec &anim : sprite.anims) {
+            anim.inUse = -1;
+            anim.id = "anim";
+            anim.frameCount = SubSlotCount;
+            for (FrameRec &frame : anim.frames)
+                frame = {-1, static_cast<int16_t>(firstCell + slot)};
+        }
+    }
+}
+
 // The lines of an untouched document's project file, in pieces.
 inline std::vector<std::string> countLines(std::initializer_list<int> counts)
 {

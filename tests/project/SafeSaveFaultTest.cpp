@@ -149,18 +149,7 @@ protected:
     void SetUp() override
     {
         SafeSaveFault::SetUp();
-        for (int slot = 0; slot < 120; ++slot) {
-            listObject(*doc, Kind::Sprite, slot, "spr" + std::to_string(slot));
-            SpriteRec &sprite = doc->Sprites[static_cast<size_t>(slot)];
-            sprite.animCount = SubSlotCount;
-            for (AnimRec &anim : sprite.anims) {
-                anim.inUse = -1;
-                anim.id = "anim";
-                anim.frameCount = SubSlotCount;
-                for (FrameRec &frame : anim.frames)
-                    frame = {-1, static_cast<int16_t>(1000 + slot)};
-            }
-        }
+        listFullSprites(*doc, 120, 1000);
         bytes = projectFileBytes(*doc).str();
         ASSERT_GT(bytes.size(), 3 * ChunkWriter::ChunkSize);
     }
