@@ -2,7 +2,6 @@
 
 #include "model/ChunkSink.h"
 
-#include <utility>
 
 namespace vorlane {
 
@@ -14,7 +13,6 @@ public:
     void put(ByteBuffer full) override;
 
     const ByteBuffer &bytes() const { return m_bytes; }
-    ByteBuffer takeBytes() { return std::move(m_bytes); }
 
 private:
     ByteBuffer m_bytes;

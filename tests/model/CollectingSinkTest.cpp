@@ -24,7 +24,6 @@ TEST(CollectingSink, JoinsThePutChunksInOrder)
     }
     sink.put(ByteBuffer()); // an empty chunk adds nothing
     EXPECT_TRUE(sink.bytes() == expected);
-    EXPECT_EQ(sink.takeBytes().str(), expected);
 }
 
 } // namespace
