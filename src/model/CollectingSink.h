@@ -2,7 +2,6 @@
 
 #include "model/ChunkSink.h"
 
-
 namespace vorlane {
 
 // Keeps every byte put to it, in order, in one buffer: a file's bytes in memory.
