@@ -11,12 +11,12 @@
 #include "generate/FileOutput.h"
 #include "generate/GenData.h"
 #include "model/Kinds.h"
-#include "model/ProgressSink.h"
-#include "model/UserInterface.h"
+#include "rules/ProgressSink.h"
+#include "rules/UserInterface.h"
 #include "project/Open.h"
-#include "project/SafeSave.h"
+#include "io/SafeSave.h"
 #include "project/Save.h"
-#include "project/SystemFileOps.h"
+#include "io/SystemFileOps.h"
 
 #include <algorithm>
 #include <chrono>

@@ -3,7 +3,7 @@
 #include "cli/Cli.h"
 #include "cli/Unattended.h"
 #include "project/Save.h"
-#include "project/SystemFileOps.h"
+#include "io/SystemFileOps.h"
 
 #include <ostream>
 

@@ -1,7 +1,7 @@
 #include "cli/Unattended.h"
 
 #include "project/Open.h"
-#include "project/SystemFileOps.h"
+#include "io/SystemFileOps.h"
 
 #include <future>
 #include <ostream>

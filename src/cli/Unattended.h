@@ -1,7 +1,7 @@
 #pragma once
 
-#include "model/ProgressSink.h"
-#include "model/UserInterface.h"
+#include "rules/ProgressSink.h"
+#include "rules/UserInterface.h"
 #include "model/modGlobal.h"
 
 #include <iosfwd>

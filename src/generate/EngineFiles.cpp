@@ -2,7 +2,7 @@
 
 #include "generate/EngineLine.h"
 #include "generate/EngineLineSize.h"
-#include "model/CollectingSink.h"
+#include "io/CollectingSink.h"
 #include "model/Kinds.h"
 
 namespace vorlane {

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "model/ChunkSink.h"
+#include "io/ChunkSink.h"
 #include "model/modGlobal.h"
 
 #include <functional>

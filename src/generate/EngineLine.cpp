@@ -1,6 +1,6 @@
 #include "generate/EngineLine.h"
 
-#include "model/Cp1252.h"
+#include "io/Cp1252.h"
 
 #include <array>
 #include <string>

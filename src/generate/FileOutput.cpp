@@ -1,7 +1,7 @@
 #include "generate/FileOutput.h"
 
-#include "model/ChunkWriter.h"
-#include "model/CollectingSink.h"
+#include "io/ChunkWriter.h"
+#include "io/CollectingSink.h"
 
 #include <cerrno>
 #include <cstdio>

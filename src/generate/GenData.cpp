@@ -2,7 +2,7 @@
 
 #include "generate/EngineFiles.h"
 #include "model/Kinds.h"
-#include "model/NewObjects.h"
+#include "rules/NewObjects.h"
 
 #include <string>
 

@@ -2,7 +2,7 @@
 
 #include "generate/FileOutput.h"
 #include "generate/GenerateFailure.h"
-#include "model/ProgressSink.h"
+#include "rules/ProgressSink.h"
 #include "model/modGlobal.h"
 
 #include <optional>

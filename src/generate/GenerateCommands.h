@@ -3,8 +3,8 @@
 #include "generate/FileOutput.h"
 #include "generate/GenerateFailure.h"
 #include "generate/GenerateState.h"
-#include "model/ProgressSink.h"
-#include "model/UserInterface.h"
+#include "rules/ProgressSink.h"
+#include "rules/UserInterface.h"
 #include "model/modGlobal.h"
 
 #include <optional>

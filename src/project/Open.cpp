@@ -1,8 +1,8 @@
 #include "project/Open.h"
 
 #include "project/ProjectReader.h"
-#include "project/SafeSave.h"
-#include "project/SystemFileOps.h"
+#include "io/SafeSave.h"
+#include "io/SystemFileOps.h"
 
 #include <algorithm>
 

@@ -1,9 +1,9 @@
 #pragma once
 
-#include "model/ProgressSink.h"
-#include "model/UserInterface.h"
+#include "rules/ProgressSink.h"
+#include "rules/UserInterface.h"
 #include "model/modGlobal.h"
-#include "project/FileOps.h"
+#include "io/FileOps.h"
 
 #include <string>
 

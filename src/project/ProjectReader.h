@@ -1,6 +1,6 @@
 #pragma once
 
-#include "model/ProgressSink.h"
+#include "rules/ProgressSink.h"
 #include "model/modGlobal.h"
 
 #include <string>

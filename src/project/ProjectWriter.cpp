@@ -1,6 +1,6 @@
 #include "project/ProjectWriter.h"
 
-#include "model/Cp1252.h"
+#include "io/Cp1252.h"
 #include "model/Kinds.h"
 #include "project/ProjectLayout.h"
 

@@ -1,8 +1,8 @@
 #pragma once
 
-#include "model/ByteBuffer.h"
-#include "model/ChunkSink.h"
-#include "model/ProgressSink.h"
+#include "io/ByteBuffer.h"
+#include "io/ChunkSink.h"
+#include "rules/ProgressSink.h"
 #include "model/modGlobal.h"
 
 namespace vorlane {

@@ -1,9 +1,9 @@
 #include "project/Save.h"
 
-#include "model/NewObjects.h"
+#include "rules/NewObjects.h"
 #include "project/ProjectWriter.h"
-#include "project/SafeSave.h"
-#include "project/SystemFileOps.h"
+#include "io/SafeSave.h"
+#include "io/SystemFileOps.h"
 
 namespace vorlane {
 

@@ -1,7 +1,7 @@
 #include "generate/EngineFiles.h"
 
 #include "GenerateTestSupport.h"
-#include "model/CollectingSink.h"
+#include "io/CollectingSink.h"
 #include "model/Kinds.h"
 
 #include <gtest/gtest.h>

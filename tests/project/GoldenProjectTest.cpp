@@ -2,7 +2,7 @@
 #include "project/ProjectWriter.h"
 
 #include "ProjectTestSupport.h"
-#include "model/NewObjects.h"
+#include "rules/NewObjects.h"
 
 #include <gtest/gtest.h>
 

@@ -1,7 +1,7 @@
 #include "project/ProjectReader.h"
 
 #include "ProjectTestSupport.h"
-#include "model/Cp1252.h"
+#include "io/Cp1252.h"
 #include "project/ProjectWriter.h"
 
 #include <gtest/gtest.h>

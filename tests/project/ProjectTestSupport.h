@@ -1,8 +1,8 @@
 #pragma once
 
 #include "model/Kinds.h"
-#include "model/ProgressSink.h"
-#include "model/UserInterface.h"
+#include "rules/ProgressSink.h"
+#include "rules/UserInterface.h"
 #include "model/modGlobal.h"
 
 #include <gtest/gtest.h>

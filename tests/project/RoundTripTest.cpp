@@ -2,8 +2,8 @@
 #include "project/ProjectWriter.h"
 
 #include "ProjectTestSupport.h"
-#include "model/Cp1252.h"
-#include "model/NewObjects.h"
+#include "io/Cp1252.h"
+#include "rules/NewObjects.h"
 
 #include <gtest/gtest.h>
 

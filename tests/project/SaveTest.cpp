@@ -1,6 +1,6 @@
 #include "project/Save.h"
 
-#include "FailingFileOps.h"
+#include "io/FailingFileOps.h"
 #include "ProjectTestSupport.h"
 #include "project/Open.h"
 #include "project/ProjectWriter.h"

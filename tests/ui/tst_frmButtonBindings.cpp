@@ -3,8 +3,8 @@
 // codes), each on a small form of its own.
 #include "EditorDriver.h"
 #include "EditorForm.h"
-#include "model/FieldRules.h"
-#include "model/ObjectManagement.h"
+#include "rules/FieldRules.h"
+#include "rules/ObjectManagement.h"
 
 #include <QCheckBox>
 #include <QComboBox>

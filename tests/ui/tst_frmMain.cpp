@@ -4,7 +4,7 @@
 #include "frmMain.h"
 #include "frmProgress.h"
 #include "model/Kinds.h"
-#include "model/Registry.h"
+#include "platform/Registry.h"
 
 #include <QAction>
 #include <QLabel>

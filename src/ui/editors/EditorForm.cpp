@@ -1,7 +1,7 @@
 #include "EditorForm.h"
 
 #include "frmMain.h"
-#include "model/EditorHandBack.h"
+#include "rules/EditorHandBack.h"
 
 #include <QApplication>
 #include <QCheckBox>

@@ -4,7 +4,7 @@
 #include "ListBinding.h"
 #include "OptionBinding.h"
 #include "TextBinding.h"
-#include "model/FieldRules.h"
+#include "rules/FieldRules.h"
 #include "model/Kinds.h"
 #include "model/modGlobal.h"
 

@@ -1,8 +1,8 @@
 #include "frmButton.h"
 
 #include "frmMain.h"
-#include "model/ButtonFieldRules.h"
-#include "model/FieldRules.h"
+#include "rules/ButtonFieldRules.h"
+#include "rules/FieldRules.h"
 
 #include <QSignalBlocker>
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "model/UserInterface.h"
+#include "rules/UserInterface.h"
 
 class QWidget;
 

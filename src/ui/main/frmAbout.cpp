@@ -1,8 +1,8 @@
 #include "frmAbout.h"
 
-#include "model/AboutInfo.h"
-#include "model/SysInfo.h"
-#include "model/UserInterface.h"
+#include "platform/AboutInfo.h"
+#include "platform/SysInfo.h"
+#include "rules/UserInterface.h"
 #include "Version.h"
 
 #include <QIcon>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "model/Registry.h"
+#include "platform/Registry.h"
 
 #include "ui_frmAbout.h"
 

@@ -1,0 +1,25 @@
+#pragma once
+
+#include "io/FileOps.h"
+
+namespace vorlane {
+
+// FileOps on the POSIX calls of the running system.
+class SystemFileOps : public FileOps
+{
+public:
+    int readAll(const std::string &path, ByteBuffer &bytes) override;
+    int createNew(const std::string &path, const std::string &modelPath, int &handle) override;
+    int write(int handle, const char *data, size_t size, size_t &written) override;
+    void startWriteback(int handle) override;
+    int sync(int handle) override;
+    int close(int handle) override;
+    int rename(const std::string &from, const std::string &to) override;
+    int remove(const std::string &path) override;
+    void syncFolder(const std::string &folder) override;
+};
+
+// The instance the program uses.
+FileOps &systemFileOps();
+
+} // namespace vorlane

@@ -1,0 +1,105 @@
+#include "rules/ObjectManagement.h"
+
+#include "model/Kinds.h"
+
+#include <algorithm>
+#include <string>
+
+namespace vorlane {
+
+namespace {
+
+bool hasSelectedLine(const ObjectList &list)
+{
+    return list.selected >= 0 && list.selected < static_cast<int>(list.lines.size());
+}
+
+} // namespace
+
+Message objectOverloadMessage(Kind kind)
+{
+    return Message{
+        kindInfo(kind).fullMessage, "Object Overload", MessageIcon::Critical, MessageButtons::OK};
+}
+
+AddResult addObject(Document &doc, Kind kind)
+{
+    const int lastSlot = kindInfo(kind).lastSlot;
+    ObjectList &list = doc.list(kind);
+    if (static_cast<int>(list.lines.size()) >= lastSlot)
+        return AddResult{objectOverloadMessage(kind)};
+
+    int found = -1;
+    for (int slot = 0; slot <= lastSlot; ++slot) {
+        const SlotView view = slotOf(doc, kind, slot);
+        if (view.inUse == 0 && view.isNew == 0) {
+            found = slot;
+            break;
+        }
+    }
+
+    // With no free slot, or only the last one, the kind's object count is the slot to use.
+    int16_t &overflow = doc.objectCount(kind);
+    const bool useOverflow = found == -1 || found == lastSlot;
+    // A count past the table's end (a long run of such fallbacks) has no slot to give: refuse
+    // as for a full list rather than write outside the table.
+    if (useOverflow && !slotInTable(kind, overflow))
+        return AddResult{objectOverloadMessage(kind)};
+
+    int16_t slot = static_cast<int16_t>(found);
+    if (found != -1)
+        slotOf(doc, kind, found).isNew = -1; // stays reserved even when the fallback is used
+    if (useOverflow) {
+        slot = overflow;
+        slotOf(doc, kind, slot).isNew = -1;
+        ++overflow;
+    }
+
+    list.lines.push_back({"New_Object" + std::to_string(doc.newObjectCounter), slot});
+    list.selected = static_cast<int>(list.lines.size()) - 1;
+    ++doc.newObjectCounter;
+    return AddResult{std::nullopt, slot, list.selected};
+}
+
+RemoveResult removeObject(Document &doc, Kind kind)
+{
+    ObjectList &list = doc.list(kind);
+    RemoveResult result;
+    if (!hasSelectedLine(list)) {
+        result.listEmpty = list.lines.empty();
+        return result;
+    }
+
+    const int16_t slot = list.lines[static_cast<size_t>(list.selected)].slot;
+    if (slotInTable(kind, slot)) {
+        const SlotView view = slotOf(doc, kind, slot);
+        view.inUse = 0;
+        view.isNew = 0;
+    }
+
+    // The line at the position equal to the slot goes, not necessarily the selected one; when
+    // the list is too short for that position, the selected line goes instead.
+    const int count = static_cast<int>(list.lines.size());
+    const int position = slot >= 0 && slot < count ? slot : list.selected;
+    list.lines.erase(list.lines.begin() + position);
+
+    const int remaining = count - 1;
+    // The line now at the removed position, or the last line when the removed one was last.
+    list.selected = remaining > 0 ? std::min(position, remaining - 1) : -1;
+
+    result.removed = true;
+    result.slot = slot;
+    result.listEmpty = remaining == 0;
+    return result;
+}
+
+std::optional<int16_t> editObject(Document &doc, Kind kind)
+{
+    const ObjectList &list = doc.list(kind);
+    if (list.lines.empty() || !hasSelectedLine(list))
+        return std::nullopt;
+    doc.currentObjectIndex = list.lines[static_cast<size_t>(list.selected)].slot;
+    return doc.currentObjectIndex;
+}
+
+} // namespace vorlane
