@@ -1,0 +1,160 @@
+// vorlane_editors_bench: opens the largest project the tables allow in the editor's main window
+// and measures, for each kind whose editor exists, the time from Edit Properties to the shown
+// editor and from Escape to the refreshed list line. Prints one line per kind:
+// "KIND open MS close MS", the medians of --runs rounds (default 9).
+//
+// Usage: vorlane_editors_bench [--runs N] [--dir FOLDER]
+#include "LargestProject.h"
+
+#include "frmMain.h"
+#include "RegisterEditors.h"
+#include "io/SystemFileOps.h"
+#include "model/Kinds.h"
+#include "project/Save.h"
+#include "rules/ProgressSink.h"
+#include "rules/UserInterface.h"
+
+#include <QApplication>
+#include <QElapsedTimer>
+#include <QKeyEvent>
+#include <QListWidget>
+#include <QTimer>
+#include <QWindow>
+
+#include <algorithm>
+#include <cstdio>
+#include <cstdlib>
+#include <filesystem>
+#include <functional>
+#include <optional>
+#include <string>
+#include <vector>
+
+namespace {
+
+using namespace vorlane;
+
+// Chooses the project file for Open and answers every question with Yes or OK.
+class BenchUserInterface : public UserInterface
+{
+public:
+    explicit BenchUserInterface(std::string path)
+        : m_path(std::move(path))
+    {}
+    MessageAnswer showMessage(const Message &message) override
+    {
+        return message.buttons == MessageButtons::YesNo ? MessageAnswer::Yes : MessageAnswer::OK;
+    }
+    std::optional<std::string> chooseFile(const FileDialogRequest &) override { return m_path; }
+
+private:
+    std::string m_path;
+};
+
+double median(std::vector<double> values)
+{
+    std::sort(values.begin(), values.end());
+    return values[values.size() / 2];
+}
+
+struct Timing
+{
+    double open = 0;
+    double close = 0;
+};
+
+// Clicks Edit Properties on the list's middle line; once the editor is shown, presses Escape.
+// Returns nothing when the kind has no editor.
+std::optional<Timing> timeEditor(frmMain &window, int tab)
+{
+    QListWidget *list = window.objectList(tab);
+    list->setCurrentRow(list->count() / 2);
+    window.lstObjects_Click(tab);
+
+    QElapsedTimer clock;
+    Timing timing;
+    qint64 escapeAt = -1;
+    bool shown = false;
+    std::function<void()> poll = [&]() {
+        QWidget *editor = QApplication::activeModalWidget();
+        if (editor && editor->windowHandle() && editor->windowHandle()->isExposed()) {
+            shown = true;
+            timing.open = static_cast<double>(clock.nsecsElapsed()) / 1e6;
+            escapeAt = clock.nsecsElapsed();
+            QKeyEvent press(QEvent::KeyPress, Qt::Key_Escape, Qt::NoModifier);
+            QKeyEvent release(QEvent::KeyRelease, Qt::Key_Escape, Qt::NoModifier);
+            QApplication::sendEvent(editor, &press);
+            QApplication::sendEvent(editor, &release);
+            return;
+        }
+        if (clock.elapsed() < 10000)
+            QTimer::singleShot(0, poll);
+    };
+    QTimer::singleShot(0, poll);
+    clock.start();
+    window.cmdObjEdit_Click();
+    if (!shown)
+        return std::nullopt;
+    // The editor has closed and the main window has refreshed its line and statistics.
+    timing.close = static_cast<double>(clock.nsecsElapsed() - escapeAt) / 1e6;
+    return timing;
+}
+
+} // namespace
+
+int main(int argc, char **argv)
+{
+    int runs = 9;
+    std::filesystem::path dir = std::filesystem::temp_directory_path();
+    for (int i = 1; i + 1 < argc; i += 2) {
+        const std::string option = argv[i];
+        if (option == "--runs")
+            runs = std::max(1, std::atoi(argv[i + 1]));
+        else if (option == "--dir")
+            dir = argv[i + 1];
+    }
+
+    QApplication app(argc, argv);
+    const std::string path = (dir / "vorlane-editors-bench.dvb").string();
+    {
+        auto largest = makeDocument();
+        bench::buildLargestProject(*largest);
+        largest->ProjectInfo.projectFilePath = path;
+        BenchUserInterface answers(path);
+        ProgressSink progress;
+        if (!Save(*largest, answers, progress)) {
+            std::fprintf(stderr, "vorlane_editors_bench: could not write %s\n", path.c_str());
+            return 1;
+        }
+    }
+
+    auto document = makeDocument();
+    BenchUserInterface userInterface(path);
+    frmMain window(*document, userInterface);
+    registerEditors(window);
+    window.show();
+    window.mnuOpen_Click();
+
+    for (std::size_t i = 0; i < ListOrder.size(); ++i) {
+        const Kind kind = ListOrder[i];
+        const int tab = static_cast<int>(i) + 2;
+        window.DataTabStrip_Click(tab);
+        std::vector<double> opens;
+        std::vector<double> closes;
+        for (int run = 0; run < runs; ++run) {
+            const std::optional<Timing> timing = timeEditor(window, tab);
+            if (!timing)
+                break;
+            opens.push_back(timing->open);
+            closes.push_back(timing->close);
+        }
+        if (opens.empty()) {
+            std::printf("%-7s no editor\n", kindInfo(kind).name);
+            continue;
+        }
+        std::printf("%-7s open %.1f close %.1f\n", kindInfo(kind).name, median(opens),
+                    median(closes));
+    }
+    std::filesystem::remove(path);
+    return 0;
+}
