@@ -16,10 +16,6 @@ class frmMain;
 class MediaEditor : public EditorForm
 {
     Q_OBJECT
-public:
-    // The edited record's fields.
-    const MediaFields &fields() const { return m_fields; }
-
 protected:
     // Edits the record of `form`'s kind at the document's current object index.
     MediaEditor(Document &doc, const MediaForm &form, frmMain *mainWindow, QWidget *parent);
