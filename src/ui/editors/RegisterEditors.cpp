@@ -1,7 +1,10 @@
 #include "RegisterEditors.h"
 
 #include "frmButton.h"
+#include "frmFont.h"
 #include "frmMain.h"
+#include "frmMusic.h"
+#include "frmSFX.h"
 #include "model/Kinds.h"
 
 namespace vorlane {
@@ -24,6 +27,9 @@ void registerEditors(frmMain &window)
 {
     window.setEditor(Kind::Button,
                      [](frmMain &main) { openEditor<frmButton>(Kind::Button, main); });
+    window.setEditor(Kind::Font, [](frmMain &main) { openEditor<frmFont>(Kind::Font, main); });
+    window.setEditor(Kind::Music, [](frmMain &main) { openEditor<frmMusic>(Kind::Music, main); });
+    window.setEditor(Kind::SFX, [](frmMain &main) { openEditor<frmSFX>(Kind::SFX, main); });
 }
 
 } // namespace vorlane
