@@ -2,7 +2,10 @@
 
 #include "frmButton.h"
 #include "frmMain.h"
+#include "frmScene.h"
 #include "model/Kinds.h"
+
+#include <type_traits>
 
 namespace vorlane {
 
@@ -14,8 +17,13 @@ void openEditor(Kind kind, frmMain &window)
 {
     if (!slotInTable(kind, window.document().currentObjectIndex))
         return;
-    Editor editor(window.document(), &window);
-    editor.run();
+    if constexpr (std::is_constructible_v<Editor, Document &, UserInterface &, frmMain *>) {
+        Editor editor(window.document(), window.userInterface(), &window);
+        editor.run();
+    } else {
+        Editor editor(window.document(), &window);
+        editor.run();
+    }
 }
 
 } // namespace
@@ -24,6 +32,7 @@ void registerEditors(frmMain &window)
 {
     window.setEditor(Kind::Button,
                      [](frmMain &main) { openEditor<frmButton>(Kind::Button, main); });
+    window.setEditor(Kind::Scene, [](frmMain &main) { openEditor<frmScene>(Kind::Scene, main); });
 }
 
 } // namespace vorlane
