@@ -4,7 +4,6 @@
 #include "rules/UserInterface.h"
 
 #include <QListWidget>
-#include <QSignalBlocker>
 
 #include <cstddef>
 
