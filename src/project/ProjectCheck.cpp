@@ -2,6 +2,7 @@
 
 #include "model/Kinds.h"
 #include "project/ProjectLayout.h"
+#include "rules/SceneRules.h"
 
 #include <array>
 #include <optional>
@@ -19,10 +20,6 @@ const char *nameOf(Kind kind)
 {
     return KindNames[static_cast<size_t>(kindIndex(kind))];
 }
-
-// The object kinds of scene layers, by objectKind 1..5.
-constexpr std::array<Kind, 5> LayerKinds{
-    Kind::Text, Kind::Sprite, Kind::Image, Kind::Button, Kind::Music};
 
 constexpr std::string_view Null = "null";
 
@@ -228,16 +225,15 @@ private:
             if (layer.inUse != -1)
                 continue;
             const std::string name = "layer " + std::to_string(++number);
-            if (layer.objectKind < 1 || layer.objectKind > static_cast<int>(LayerKinds.size())) {
+            const std::optional<Kind> kind = layerObjectKind(layer.objectKind);
+            if (!kind) {
                 report(name + " objectKind " + std::to_string(layer.objectKind) +
                        " is none of 1 texts, 2 sprites, 3 images, 4 buttons, 5 music");
                 if (layer.objectId != Null)
                     checkBare(name + " objectId", layer.objectId);
                 continue;
             }
-            checkReference(name + " objectId",
-                           layer.objectId,
-                           LayerKinds[static_cast<size_t>(layer.objectKind - 1)]);
+            checkReference(name + " objectId", layer.objectId, *kind);
         }
     }
 

@@ -1,6 +1,7 @@
 #include "rules/ObjectManagement.h"
 
 #include "model/Kinds.h"
+#include "rules/SlotAllocation.h"
 
 #include <algorithm>
 #include <string>
@@ -29,36 +30,23 @@ AddResult addObject(Document &doc, Kind kind)
     if (static_cast<int>(list.lines.size()) >= lastSlot)
         return AddResult{objectOverloadMessage(kind)};
 
-    int found = -1;
-    for (int slot = 0; slot <= lastSlot; ++slot) {
-        const SlotView view = slotOf(doc, kind, slot);
-        if (view.inUse == 0 && view.isNew == 0) {
-            found = slot;
-            break;
-        }
-    }
-
-    // With no free slot, or only the last one, the kind's object count is the slot to use.
-    int16_t &overflow = doc.objectCount(kind);
-    const bool useOverflow = found == -1 || found == lastSlot;
-    // A count past the table's end (a long run of such fallbacks) has no slot to give: refuse
-    // as for a full list rather than write outside the table.
-    if (useOverflow && !slotInTable(kind, overflow))
+    // With no free slot, or only the last one, the kind's object count is the slot to use;
+    // every slot taken is marked reserved.
+    const auto slot = allocateSlot(
+        lastSlot,
+        [&doc, kind](int candidate) {
+            const SlotView view = slotOf(doc, kind, candidate);
+            return view.inUse == 0 && view.isNew == 0;
+        },
+        doc.objectCount(kind),
+        [&doc, kind](int taken) { slotOf(doc, kind, taken).isNew = -1; });
+    if (!slot)
         return AddResult{objectOverloadMessage(kind)};
 
-    int16_t slot = static_cast<int16_t>(found);
-    if (found != -1)
-        slotOf(doc, kind, found).isNew = -1; // stays reserved even when the fallback is used
-    if (useOverflow) {
-        slot = overflow;
-        slotOf(doc, kind, slot).isNew = -1;
-        ++overflow;
-    }
-
-    list.lines.push_back({"New_Object" + std::to_string(doc.newObjectCounter), slot});
+    list.lines.push_back({"New_Object" + std::to_string(doc.newObjectCounter), *slot});
     list.selected = static_cast<int>(list.lines.size()) - 1;
     ++doc.newObjectCounter;
-    return AddResult{std::nullopt, slot, list.selected};
+    return AddResult{std::nullopt, *slot, list.selected};
 }
 
 RemoveResult removeObject(Document &doc, Kind kind)

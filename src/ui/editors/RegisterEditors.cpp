@@ -5,7 +5,10 @@
 #include "frmMain.h"
 #include "frmMusic.h"
 #include "frmSFX.h"
+#include "frmScene.h"
 #include "model/Kinds.h"
+
+#include <type_traits>
 
 namespace vorlane {
 
@@ -17,8 +20,13 @@ void openEditor(Kind kind, frmMain &window)
 {
     if (!slotInTable(kind, window.document().currentObjectIndex))
         return;
-    Editor editor(window.document(), &window);
-    editor.run();
+    if constexpr (std::is_constructible_v<Editor, Document &, UserInterface &, frmMain *>) {
+        Editor editor(window.document(), window.userInterface(), &window);
+        editor.run();
+    } else {
+        Editor editor(window.document(), &window);
+        editor.run();
+    }
 }
 
 } // namespace
@@ -30,6 +38,7 @@ void registerEditors(frmMain &window)
     window.setEditor(Kind::Font, [](frmMain &main) { openEditor<frmFont>(Kind::Font, main); });
     window.setEditor(Kind::Music, [](frmMain &main) { openEditor<frmMusic>(Kind::Music, main); });
     window.setEditor(Kind::SFX, [](frmMain &main) { openEditor<frmSFX>(Kind::SFX, main); });
+    window.setEditor(Kind::Scene, [](frmMain &main) { openEditor<frmScene>(Kind::Scene, main); });
 }
 
 } // namespace vorlane

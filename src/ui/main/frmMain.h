@@ -61,6 +61,8 @@ public:
     void setEditor(Kind kind, EditorOpener opener);
 
     Document &document() { return m_doc; }
+    // How the window asks the user; editors that report something use it too.
+    UserInterface &userInterface() { return m_userInterface; }
     frmProgress &progress();
     int currentTab() const { return m_currentTab; }
     QListWidget *objectList(int tab) const { return m_lists[static_cast<size_t>(tab)]; }

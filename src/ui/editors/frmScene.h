@@ -1,0 +1,60 @@
+#pragma once
+
+#include "EditorForm.h"
+#include "model/modGlobal.h"
+#include "rules/SceneRules.h"
+
+#include "ui_frmScene.h"
+
+namespace vorlane {
+
+class UserInterface;
+class frmMain;
+
+// The scene editor: one SceneRec, its two options and its layers, each layer placing one
+// text, sprite, image, button or music track of the project in the scene.
+class frmScene : public EditorForm
+{
+    Q_OBJECT
+public:
+    // Edits the scene at the document's current object index; the layer limit is reported
+    // through `userInterface`.
+    frmScene(Document &doc,
+             UserInterface &userInterface,
+             frmMain *mainWindow = nullptr,
+             QWidget *parent = nullptr);
+
+    // Event handlers.
+    void cmbSceneLayerObjects_Click();
+    void lstSceneLayerObjects_Click();
+    void lstSceneLayerObjects_DblClick();
+    void cmdSceneLayerAdd_Click();
+    void cmdSceneLayerDelete_Click();
+    void cmdSceneLayerUp_Click();
+    void cmdSceneLayerDown_Click();
+    void lstSceneLayers_Click();
+
+    SceneRec &record() { return m_scene; }
+    const LayerList &layers() const { return m_layers; }
+    const Ui::frmScene &form() const { return m_ui; }
+
+protected:
+    void newRecordDefaults() override;
+    // Stores the number of layers, then hands the scene back to the main window's list.
+    void handBack() override;
+
+private:
+    void declareBindings();
+    void connectHandlers();
+    // Shows the layer list again, with its selection.
+    void showLayers();
+    void applyButtons(const LayerButtons &buttons);
+
+    Ui::frmScene m_ui;
+    SceneRec &m_scene;
+    UserInterface &m_userInterface;
+    LayerList m_layers;
+    bool m_mirroring = false;
+};
+
+} // namespace vorlane
