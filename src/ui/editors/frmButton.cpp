@@ -1,8 +1,11 @@
 #include "frmButton.h"
 
+#include "CellView.h"
 #include "frmMain.h"
 #include "rules/ButtonFieldRules.h"
 #include "rules/FieldRules.h"
+#include "rules/PictureSpec.h"
+#include "rules/PreviewTexts.h"
 
 #include <QSignalBlocker>
 
@@ -16,6 +19,7 @@ frmButton::frmButton(Document &doc, frmMain *mainWindow, QWidget *parent)
 {
     m_ui.setupUi(this);
     declareBindings();
+
     connect(m_ui.optButton, &QRadioButton::toggled, this, [this](bool checked) {
         if (checked)
             optButton_Click();
@@ -24,6 +28,27 @@ frmButton::frmButton(Document &doc, frmMain *mainWindow, QWidget *parent)
         if (checked)
             optHotspot_Click();
     });
+
+    // The template's cell for the chosen state follows every change that could move it; it
+    // is connected after the bindings and the type switch, so it sees the record changed.
+    loadStep([this]() { showTemplateCell(); });
+    for (QLineEdit *box : {m_ui.txtButtonUp,
+                           m_ui.txtButtonOver,
+                           m_ui.txtButtonDown,
+                           m_ui.txtButtonDisabled,
+                           m_ui.txtButtonSwitch1,
+                           m_ui.txtButtonSwitch2})
+        connect(box, &QLineEdit::textChanged, this, &frmButton::showTemplateCell);
+    connect(
+        m_ui.cmbButtonTemplate, &QComboBox::editTextChanged, this, &frmButton::showTemplateCell);
+    connect(m_ui.cmbButtonTemplate, &QComboBox::activated, this, &frmButton::showTemplateCell);
+    for (QRadioButton *option : {m_ui.optButtonUp,
+                                 m_ui.optButtonOver,
+                                 m_ui.optButtonDown,
+                                 m_ui.optButtonDisabled,
+                                 m_ui.optButton,
+                                 m_ui.optHotspot})
+        connect(option, &QRadioButton::toggled, this, &frmButton::showTemplateCell);
 }
 
 void frmButton::newRecordDefaults()
@@ -134,6 +159,37 @@ void frmButton::showType()
     m_ui.lblButtonSwitch1->setText(QString::fromUtf8(captions.first));
     m_ui.lblButtonSwitch2->setText(QString::fromUtf8(captions.second));
     enableControls(graphicOnlyControls(), !hotSpot);
+}
+
+// The template's cell for the chosen state: the state's cell box, or the current frame when
+// no state is chosen.
+void frmButton::showTemplateCell()
+{
+    CellView *view = m_ui.picButtonCell;
+    if (m_button.isHotSpot != 0) {
+        view->showNote(tr("A hot spot has no template"));
+        return;
+    }
+    const std::optional<int> image = findListedObject(document(), Kind::Image, m_button.templateId);
+    if (!image) {
+        view->setPicture(PictureSpec{});
+        view->showNote(QString::fromStdString(noObjectText("image", m_button.templateId)));
+        return;
+    }
+    view->setPicture(pictureOf(document(), document().Images[static_cast<size_t>(*image)]));
+    view->setTemplateCells(m_button.templateRows, m_button.templateColumns);
+    const std::pair<QRadioButton *, ButtonState> states[] = {
+        {m_ui.optButtonUp, ButtonState::Up},
+        {m_ui.optButtonOver, ButtonState::Over},
+        {m_ui.optButtonDown, ButtonState::Down},
+        {m_ui.optButtonDisabled, ButtonState::Disabled}};
+    for (const auto &[option, state] : states) {
+        if (option->isChecked()) {
+            view->setCell(stateCell(m_button, state), option->text());
+            return;
+        }
+    }
+    view->setCell(m_button.currentFrame, tr("Current frame"));
 }
 
 void frmButton::optHotspot_Click()

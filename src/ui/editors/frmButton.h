@@ -31,6 +31,7 @@ protected:
 private:
     void declareBindings();
     void showType();
+    void showTemplateCell();
     std::vector<QWidget *> graphicOnlyControls() const;
 
     Ui::frmButton m_ui;

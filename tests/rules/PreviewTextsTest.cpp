@@ -1,0 +1,34 @@
+#include "rules/PreviewTexts.h"
+
+#include <gtest/gtest.h>
+
+namespace vorlane {
+namespace {
+
+TEST(PreviewTexts, NameTheStoredPathAndTheFileLookedFor)
+{
+    EXPECT_EQ(missingFileText("art\\hero.png", "/games/art/hero.png"),
+              "File not found: \"art\\hero.png\" (looked for /games/art/hero.png)");
+    EXPECT_EQ(unreadableFileText("notes.txt", "/games/notes.txt"),
+              "Not a picture Vorlane can read: \"notes.txt\" (looked for /games/notes.txt)");
+    EXPECT_EQ(noFileText(), "No file: the path is empty");
+}
+
+TEST(PreviewTexts, CellsAndObjects)
+{
+    EXPECT_EQ(noSuchCellText(9, 8), "Cell 9 is not on the sheet (cells 1 to 8)");
+    EXPECT_EQ(noSuchCellText(0, 8), "Cell 0 is not on the sheet (cells 1 to 8)");
+    EXPECT_EQ(noSuchCellText(1, 0), "Cell 1 is not on the sheet (no whole cell)");
+    EXPECT_EQ(noObjectText("image", "tiles"), "No image named \"tiles\"");
+    EXPECT_EQ(noObjectText("image", "null"), "No image chosen");
+    EXPECT_EQ(noObjectText("image", ""), "No image chosen");
+}
+
+TEST(PreviewTexts, SheetAndDelay)
+{
+    EXPECT_EQ(sheetSummaryText(128, 64, 4, 2), "128 x 64 pixels, 8 cells (4 x 2), numbered from 1");
+    EXPECT_EQ(delayText(120), "Frame delay: 120 ms");
+}
+
+} // namespace
+} // namespace vorlane
