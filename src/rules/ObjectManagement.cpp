@@ -16,6 +16,44 @@ bool hasSelectedLine(const ObjectList &list)
 
 } // namespace
 
+std::optional<int16_t> allocateSlot(int lastSlot,
+                                    const std::function<bool(int slot)> &isFree,
+                                    const std::function<void(int slot)> &take,
+                                    int16_t &overflow)
+{
+    int found = -1;
+    for (int slot = 0; slot <= lastSlot; ++slot) {
+        if (isFree(slot)) {
+            found = slot;
+            break;
+        }
+    }
+    const bool useOverflow = found == -1 || found == lastSlot;
+    if (useOverflow && (overflow < 0 || overflow > lastSlot))
+        return std::nullopt;
+
+    if (found != -1)
+        take(found);
+    if (!useOverflow)
+        return static_cast<int16_t>(found);
+    const int16_t slot = overflow;
+    take(slot);
+    ++overflow;
+    return slot;
+}
+
+std::string takeNewObjectLabel(Document &doc)
+{
+    return "New_Object" + std::to_string(doc.newObjectCounter++);
+}
+
+int selectionAfterRemoval(int removed, int remaining)
+{
+    if (remaining <= 0)
+        return -1;
+    return std::min(removed, remaining - 1);
+}
+
 Message objectOverloadMessage(Kind kind)
 {
     return Message{
@@ -29,36 +67,23 @@ AddResult addObject(Document &doc, Kind kind)
     if (static_cast<int>(list.lines.size()) >= lastSlot)
         return AddResult{objectOverloadMessage(kind)};
 
-    int found = -1;
-    for (int slot = 0; slot <= lastSlot; ++slot) {
-        const SlotView view = slotOf(doc, kind, slot);
-        if (view.inUse == 0 && view.isNew == 0) {
-            found = slot;
-            break;
-        }
-    }
-
     // With no free slot, or only the last one, the kind's object count is the slot to use.
-    int16_t &overflow = doc.objectCount(kind);
-    const bool useOverflow = found == -1 || found == lastSlot;
+    const std::optional<int16_t> slot = allocateSlot(
+        lastSlot,
+        [&doc, kind](int s) {
+            const SlotView view = slotOf(doc, kind, s);
+            return view.inUse == 0 && view.isNew == 0;
+        },
+        [&doc, kind](int s) { slotOf(doc, kind, s).isNew = -1; },
+        doc.objectCount(kind));
     // A count past the table's end (a long run of such fallbacks) has no slot to give: refuse
     // as for a full list rather than write outside the table.
-    if (useOverflow && !slotInTable(kind, overflow))
+    if (!slot)
         return AddResult{objectOverloadMessage(kind)};
 
-    int16_t slot = static_cast<int16_t>(found);
-    if (found != -1)
-        slotOf(doc, kind, found).isNew = -1; // stays reserved even when the fallback is used
-    if (useOverflow) {
-        slot = overflow;
-        slotOf(doc, kind, slot).isNew = -1;
-        ++overflow;
-    }
-
-    list.lines.push_back({"New_Object" + std::to_string(doc.newObjectCounter), slot});
+    list.lines.push_back({takeNewObjectLabel(doc), *slot});
     list.selected = static_cast<int>(list.lines.size()) - 1;
-    ++doc.newObjectCounter;
-    return AddResult{std::nullopt, slot, list.selected};
+    return AddResult{std::nullopt, *slot, list.selected};
 }
 
 RemoveResult removeObject(Document &doc, Kind kind)
@@ -84,8 +109,7 @@ RemoveResult removeObject(Document &doc, Kind kind)
     list.lines.erase(list.lines.begin() + position);
 
     const int remaining = count - 1;
-    // The line now at the removed position, or the last line when the removed one was last.
-    list.selected = remaining > 0 ? std::min(position, remaining - 1) : -1;
+    list.selected = selectionAfterRemoval(position, remaining);
 
     result.removed = true;
     result.slot = slot;

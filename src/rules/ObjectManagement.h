@@ -4,7 +4,9 @@
 #include "model/modGlobal.h"
 
 #include <cstdint>
+#include <functional>
 #include <optional>
+#include <string>
 
 namespace vorlane {
 
@@ -24,6 +26,23 @@ struct RemoveResult
     int16_t slot = 0;       // the freed slot
     bool listEmpty = false; // the list has no line left: no Remove, Edit on, "[NO DATA]" cover
 };
+
+// Where an added item goes: the first slot of 0..`lastSlot` that `isFree` accepts, marked with
+// `take`. When none is free, or only the last one, the slot numbered by `overflow` is taken
+// instead and `overflow` raised by one (the last slot, when found, stays taken). Returns
+// nothing, changing nothing, when that overflow slot lies outside 0..`lastSlot`.
+std::optional<int16_t> allocateSlot(int lastSlot,
+                                    const std::function<bool(int slot)> &isFree,
+                                    const std::function<void(int slot)> &take,
+                                    int16_t &overflow);
+
+// The text of a new item's line, "New_Object" followed by the new-object counter, which is
+// then raised by one.
+std::string takeNewObjectLabel(Document &doc);
+
+// The row selected after row `removed` was taken out of a list now holding `remaining` rows:
+// the row that moved into its place, else the one above; -1 when the list is empty.
+int selectionAfterRemoval(int removed, int remaining);
 
 // The "Object Overload" message refusing one more object of `kind`.
 Message objectOverloadMessage(Kind kind);
