@@ -2,6 +2,7 @@
 
 #include "frmButton.h"
 #include "frmMain.h"
+#include "frmSprite.h"
 #include "model/Kinds.h"
 
 namespace vorlane {
@@ -24,6 +25,8 @@ void registerEditors(frmMain &window)
 {
     window.setEditor(Kind::Button,
                      [](frmMain &main) { openEditor<frmButton>(Kind::Button, main); });
+    window.setEditor(Kind::Sprite,
+                     [](frmMain &main) { openEditor<frmSprite>(Kind::Sprite, main); });
 }
 
 } // namespace vorlane

@@ -3,6 +3,7 @@
 #include "frmAbout.h"
 #include "frmDataProjName.h"
 #include "frmProgress.h"
+#include "QuickStatsView.h"
 #include "generate/GenerateCommands.h"
 #include "model/Kinds.h"
 #include "rules/ObjectManagement.h"
@@ -209,11 +210,7 @@ void frmMain::setEditor(Kind kind, EditorOpener opener)
 
 void frmMain::applyStats(const QuickStats &stats, QFrame *cover)
 {
-    if (cover)
-        cover->setVisible(stats.cover);
-    for (const StatLabel &label : stats.labels)
-        if (label.caption)
-            setLabelCaption(label.label.c_str(), *label.caption);
+    showQuickStats(*this, stats, cover);
 }
 
 void frmMain::UpdateAppStats()
@@ -266,12 +263,6 @@ void frmMain::cmdObjRemove_Click()
         m_ui.cmdObjEdit->setEnabled(true);
         coverFrame(m_currentTab)->setVisible(true);
     }
-}
-
-void frmMain::setLabelCaption(const char *labelName, const std::string &caption)
-{
-    if (auto *label = findChild<QLabel *>(QString::fromUtf8(labelName)))
-        label->setText(qs(caption));
 }
 
 void frmMain::projectOpened()

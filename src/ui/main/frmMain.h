@@ -61,6 +61,7 @@ public:
     void setEditor(Kind kind, EditorOpener opener);
 
     Document &document() { return m_doc; }
+    UserInterface &userInterface() { return m_userInterface; }
     frmProgress &progress();
     int currentTab() const { return m_currentTab; }
     QListWidget *objectList(int tab) const { return m_lists[static_cast<size_t>(tab)]; }
@@ -82,7 +83,6 @@ private:
     void projectOpened();
     void showCaption();
     void applyStats(const QuickStats &stats, QFrame *cover);
-    void setLabelCaption(const char *labelName, const std::string &caption);
     void selectFirstTab();
     // Save and Save As; true when the project file was written.
     bool saveProject();
