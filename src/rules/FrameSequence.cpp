@@ -86,8 +86,8 @@ Message frameOverloadMessage()
                    MessageButtons::OK};
 }
 
-std::optional<Message> addFrame(AnimRec &anim, ObjectList &rows, const std::string &typed,
-                                int16_t &frameOverflow)
+std::optional<Message>
+addFrame(AnimRec &anim, ObjectList &rows, const std::string &typed, int16_t &frameOverflow)
 {
     if (static_cast<int>(rows.lines.size()) >= MaxFrames)
         return frameOverloadMessage();

@@ -32,8 +32,8 @@ Message frameOverloadMessage();
 // Add: the first free frame slot (or the frame overflow counter's) takes the number at the
 // start of `typed`; a line showing `typed` as it stands is appended and selected. Returns the
 // refusal when the list is full or the overflow slot lies past the table; nothing changed then.
-std::optional<Message> addFrame(AnimRec &anim, ObjectList &rows, const std::string &typed,
-                                int16_t &frameOverflow);
+std::optional<Message>
+addFrame(AnimRec &anim, ObjectList &rows, const std::string &typed, int16_t &frameOverflow);
 
 // Delete: frees the selected line's frame slot (its cell stays) and removes the line. Returns
 // false, changing nothing, when no line is selected.

@@ -70,8 +70,8 @@ private:
     {
         clickTab(*m_window, tabOf(Kind::Image));
         clickButton(m_window->form().cmdObjAdd);
-        ImageRec &image = m_doc->Images[static_cast<size_t>(
-            m_doc->list(Kind::Image).lines.back().slot)];
+        ImageRec &image =
+            m_doc->Images[static_cast<size_t>(m_doc->list(Kind::Image).lines.back().slot)];
         image.id = id;
         image.bound = bound;
         if (opened) {
@@ -194,8 +194,7 @@ private slots:
         addImage("sheetA", 1, true);
         clickTab(*m_window, tabOf(Kind::Sprite));
         edit([](frmSprite *editor) {
-            QCOMPARE(itemTexts(editor->form().cmbSpriteImage),
-                     QStringList({"sheetB", "sheetA"}));
+            QCOMPARE(itemTexts(editor->form().cmbSpriteImage), QStringList({"sheetB", "sheetA"}));
             chooseEntry(editor->form().cmbSpriteImage, 1);
         });
         QCOMPARE(sprite().imageId, std::string("sheetA"));
@@ -239,7 +238,8 @@ private slots:
             QCOMPARE(f.lstAnimObjects->item(99)->text(), QStringLiteral("New_Object100"));
             clickButton(f.cmdSpriteNewAnim);
             QCOMPARE(m_ui->messages.size(), size_t(1));
-            QCOMPARE(m_ui->messages[0].text, std::string("No space left for animations! (Max 100)"));
+            QCOMPARE(m_ui->messages[0].text,
+                     std::string("No space left for animations! (Max 100)"));
             QCOMPARE(m_ui->messages[0].title, std::string("Object Overload"));
             QVERIFY(m_ui->messages[0].icon == MessageIcon::Critical);
             QVERIFY(m_ui->messages[0].buttons == MessageButtons::OK);
@@ -525,7 +525,8 @@ private slots:
         edit([this](frmSprite *editor) {
             clickButton(editor->form().cmdSpriteNewAnim);
             QCOMPARE(m_ui->messages.size(), size_t(1));
-            QCOMPARE(m_ui->messages[0].text, std::string("No space left for animations! (Max 100)"));
+            QCOMPARE(m_ui->messages[0].text,
+                     std::string("No space left for animations! (Max 100)"));
             QCOMPARE(m_ui->messages[0].title, std::string("Object Overload"));
             QCOMPARE(editor->form().lstAnimObjects->count(), 0);
             QCOMPARE(m_doc->animOverflow, int16_t(101));

@@ -187,8 +187,7 @@ ListBinding &EditorForm::bindList(QComboBox *box, std::string &field, Kind kind,
         [&field](const std::string &chosen) { field = chosen; });
 }
 
-ListBinding &
-EditorForm::bindList(QComboBox *box, std::string &field, ListBinding::Offer offer)
+ListBinding &EditorForm::bindList(QComboBox *box, std::string &field, ListBinding::Offer offer)
 {
     return add(std::make_unique<ListBinding>(
         box,

@@ -24,20 +24,15 @@ frmAnim::frmAnim(Document &doc, frmSprite &spriteEditor)
             &QLineEdit::textChanged,
             this,
             &frmAnim::txtAnimSequenceAdd_Change);
-    connect(m_ui.cmdAnimSequenceAdd,
-            &QPushButton::clicked,
-            this,
-            &frmAnim::cmdAnimSequenceAdd_Click);
+    connect(
+        m_ui.cmdAnimSequenceAdd, &QPushButton::clicked, this, &frmAnim::cmdAnimSequenceAdd_Click);
     connect(m_ui.cmdAnimSequenceDelete,
             &QPushButton::clicked,
             this,
             &frmAnim::cmdAnimSequenceDelete_Click);
+    connect(m_ui.cmdAnimSequenceUp, &QPushButton::clicked, this, &frmAnim::cmdAnimSequenceUp_Click);
     connect(
-        m_ui.cmdAnimSequenceUp, &QPushButton::clicked, this, &frmAnim::cmdAnimSequenceUp_Click);
-    connect(m_ui.cmdAnimSequenceDown,
-            &QPushButton::clicked,
-            this,
-            &frmAnim::cmdAnimSequenceDown_Click);
+        m_ui.cmdAnimSequenceDown, &QPushButton::clicked, this, &frmAnim::cmdAnimSequenceDown_Click);
 }
 
 frmAnim::~frmAnim() = default;
@@ -69,19 +64,18 @@ void frmAnim::declareBindings()
             if (rows >= 2)
                 enableControls({m_ui.cmdAnimSequenceDown, m_ui.cmdAnimSequenceUp}, true);
         } else {
-            enableControls({m_ui.cmdAnimSequenceDelete,
-                            m_ui.cmdAnimSequenceUp,
-                            m_ui.cmdAnimSequenceDown},
-                           false);
+            enableControls(
+                {m_ui.cmdAnimSequenceDelete, m_ui.cmdAnimSequenceUp, m_ui.cmdAnimSequenceDown},
+                false);
         }
     });
     bindNumber(m_ui.txtAnimDelaysAnim, a.animDelay);
     bindNumber(m_ui.txtAnimDelaysFrame, a.frameDelay);
     bindCheck(m_ui.chkAnimPlay, a.play);
     bindCheck(m_ui.chkAnimRepeat, a.repeat);
-    bindOptions({{m_ui.optAnimDirectionForward, int16_t(1)},
-                 {m_ui.optAnimDirectionReverse, int16_t(-1)}},
-                a.direction);
+    bindOptions(
+        {{m_ui.optAnimDirectionForward, int16_t(1)}, {m_ui.optAnimDirectionReverse, int16_t(-1)}},
+        a.direction);
     // Any direction other than forward shows as reverse.
     loadStep([this]() {
         if (m_anim.direction != 1 && m_anim.direction != -1) {

@@ -111,9 +111,8 @@ void frmSprite::lstAnimObjects_DblClick()
 
 void frmSprite::UpdateAnimStats(int indexAnim, int indexSprite)
 {
-    showQuickStats(*this,
-                   vorlane::UpdateAnimStats(document(), indexAnim, indexSprite),
-                   m_ui.fraAnimCover);
+    showQuickStats(
+        *this, vorlane::UpdateAnimStats(document(), indexAnim, indexSprite), m_ui.fraAnimCover);
 }
 
 void frmSprite::animationHandedBack(const std::string &id)
