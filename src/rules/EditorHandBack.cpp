@@ -5,9 +5,8 @@
 
 namespace vorlane {
 
-bool handBackToList(Document &doc, Kind kind, const std::string &id)
+bool replaceSelectedLine(ObjectList &list, const std::string &id)
 {
-    ObjectList &list = doc.list(kind);
     if (list.selected < 0 || static_cast<size_t>(list.selected) >= list.lines.size())
         return false;
     const int row = list.selected;
@@ -16,6 +15,11 @@ bool handBackToList(Document &doc, Kind kind, const std::string &id)
     list.lines.insert(std::next(list.lines.begin(), row), ListLine{id, slot});
     list.selected = row;
     return true;
+}
+
+bool handBackToList(Document &doc, Kind kind, const std::string &id)
+{
+    return replaceSelectedLine(doc.list(kind), id);
 }
 
 } // namespace vorlane

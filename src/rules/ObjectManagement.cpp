@@ -17,6 +17,11 @@ bool hasSelectedLine(const ObjectList &list)
 
 } // namespace
 
+std::string takeNewObjectLabel(Document &doc)
+{
+    return "New_Object" + std::to_string(doc.newObjectCounter++);
+}
+
 Message objectOverloadMessage(Kind kind)
 {
     return Message{
@@ -43,9 +48,8 @@ AddResult addObject(Document &doc, Kind kind)
     if (!slot)
         return AddResult{objectOverloadMessage(kind)};
 
-    list.lines.push_back({"New_Object" + std::to_string(doc.newObjectCounter), *slot});
+    list.lines.push_back({takeNewObjectLabel(doc), *slot});
     list.selected = static_cast<int>(list.lines.size()) - 1;
-    ++doc.newObjectCounter;
     return AddResult{std::nullopt, *slot, list.selected};
 }
 
@@ -72,8 +76,7 @@ RemoveResult removeObject(Document &doc, Kind kind)
     list.lines.erase(list.lines.begin() + position);
 
     const int remaining = count - 1;
-    // The line now at the removed position, or the last line when the removed one was last.
-    list.selected = remaining > 0 ? std::min(position, remaining - 1) : -1;
+    list.selected = selectionAfterRemoval(position, remaining);
 
     result.removed = true;
     result.slot = slot;

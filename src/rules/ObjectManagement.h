@@ -2,9 +2,12 @@
 
 #include "rules/UserInterface.h"
 #include "model/modGlobal.h"
+#include "rules/SlotAllocation.h"
 
 #include <cstdint>
+#include <functional>
 #include <optional>
+#include <string>
 
 namespace vorlane {
 
@@ -24,6 +27,10 @@ struct RemoveResult
     int16_t slot = 0;       // the freed slot
     bool listEmpty = false; // the list has no line left: no Remove, Edit on, "[NO DATA]" cover
 };
+
+// The text of a new item's line, "New_Object" followed by the new-object counter, which is
+// then raised by one.
+std::string takeNewObjectLabel(Document &doc);
 
 // The "Object Overload" message refusing one more object of `kind`.
 Message objectOverloadMessage(Kind kind);

@@ -1,5 +1,7 @@
 #include "rules/SlotAllocation.h"
 
+#include <algorithm>
+
 namespace vorlane {
 
 std::optional<int16_t> allocateSlot(int lastSlot,
@@ -29,6 +31,13 @@ std::optional<int16_t> allocateSlot(int lastSlot,
     take(slot);
     ++overflow;
     return slot;
+}
+
+int selectionAfterRemoval(int removed, int remaining)
+{
+    if (remaining <= 0)
+        return -1;
+    return std::min(removed, remaining - 1);
 }
 
 } // namespace vorlane

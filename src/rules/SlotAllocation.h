@@ -17,4 +17,8 @@ std::optional<int16_t> allocateSlot(int lastSlot,
                                     int16_t &overflow,
                                     const std::function<void(int slot)> &take);
 
+// The row selected after row `removed` was taken out of a list now holding `remaining` rows:
+// the row that moved into its place, else the one above; -1 when the list is empty.
+int selectionAfterRemoval(int removed, int remaining);
+
 } // namespace vorlane

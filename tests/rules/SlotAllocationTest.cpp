@@ -1,4 +1,5 @@
 #include "rules/SlotAllocation.h"
+#include "rules/ObjectManagement.h"
 
 #include <gtest/gtest.h>
 
@@ -89,6 +90,21 @@ TEST(SlotAllocation, CounterIsNotNeededWhileASlotBeforeTheLastIsFree)
     int16_t overflow = 99; // far past the table, but unused
     EXPECT_EQ(table.allocate(overflow), std::optional<int16_t>(3));
     EXPECT_EQ(overflow, 99);
+}
+
+TEST(SlotAllocation, SelectionAfterRemoval)
+{
+    EXPECT_EQ(selectionAfterRemoval(1, 2), 1); // the row that moved up
+    EXPECT_EQ(selectionAfterRemoval(2, 2), 1); // the last row went: the one above
+    EXPECT_EQ(selectionAfterRemoval(0, 0), -1);
+}
+
+TEST(SlotAllocation, NewObjectLabelRaisesTheCounter)
+{
+    auto doc = makeDocument();
+    doc->newObjectCounter = 3;
+    EXPECT_EQ(takeNewObjectLabel(*doc), "New_Object3");
+    EXPECT_EQ(doc->newObjectCounter, 4);
 }
 
 } // namespace

@@ -1,5 +1,6 @@
 #include "EditorForm.h"
 
+#include "QtUserInterface.h"
 #include "frmMain.h"
 #include "rules/EditorHandBack.h"
 
@@ -186,6 +187,16 @@ ListBinding &EditorForm::bindList(QComboBox *box, std::string &field, Kind kind,
         [&field](const std::string &chosen) { field = chosen; });
 }
 
+ListBinding &EditorForm::bindList(QComboBox *box, std::string &field, ListBinding::Offer offer)
+{
+    return add(std::make_unique<ListBinding>(
+        box,
+        std::move(offer),
+        [&field]() { return field; },
+        storeWith(field, referenceRule),
+        [&field](const std::string &chosen) { field = chosen; }));
+}
+
 ListBinding &EditorForm::bindList(QComboBox *box,
                                   Kind kind,
                                   ListFilter filter,
@@ -223,6 +234,15 @@ OptionBinding &EditorForm::bindOptions(std::vector<Option> options, int16_t &fie
 void EditorForm::loadStep(std::function<void()> step)
 {
     add(std::make_unique<LoadStep>(std::move(step)));
+}
+
+UserInterface &EditorForm::userInterface()
+{
+    if (m_mainWindow)
+        return m_mainWindow->userInterface();
+    if (!m_ownUserInterface)
+        m_ownUserInterface = std::make_unique<QtUserInterface>(this);
+    return *m_ownUserInterface;
 }
 
 void EditorForm::enableControls(const std::vector<QWidget *> &controls, bool enabled)

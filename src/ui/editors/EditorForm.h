@@ -24,6 +24,8 @@ class QLineEdit;
 namespace vorlane {
 
 class frmMain;
+class QtUserInterface;
+class UserInterface;
 
 // What every object editor shares: it edits one record in place, declared as a list of
 // bindings from its controls to the record's fields; loading applies the new-record defaults
@@ -53,6 +55,9 @@ public:
     Document &document() { return m_doc; }
     Kind kind() const { return m_kind; }
     int slot() const { return m_slot; }
+    frmMain *mainWindow() const { return m_mainWindow; }
+    // Where the editor's messages go: the main window's, or message boxes of its own.
+    UserInterface &userInterface();
 
     // Every close, by Escape, the close box or code, ends here.
     void done(int result) override;
@@ -79,6 +84,9 @@ protected:
     // Drop-down of objects of `kind` (not new, and passing `filter`), following the
     // reference rule; choosing an entry stores it.
     ListBinding &bindList(QComboBox *box, std::string &field, Kind kind, ListFilter filter = {});
+    // Drop-down offering what `offer` gives, following the reference rule; choosing an entry
+    // stores it.
+    ListBinding &bindList(QComboBox *box, std::string &field, ListBinding::Offer offer);
     // Drop-down of objects of `kind` whose text change does something of its own.
     ListBinding &bindList(QComboBox *box,
                           Kind kind,
@@ -113,6 +121,7 @@ private:
     int m_slot;
     bool m_unloaded = false;
     std::vector<std::unique_ptr<FieldBinding>> m_bindings;
+    std::unique_ptr<QtUserInterface> m_ownUserInterface;
 };
 
 template<class Int>

@@ -6,6 +6,7 @@
 #include "frmMusic.h"
 #include "frmSFX.h"
 #include "frmScene.h"
+#include "frmSprite.h"
 #include "model/Kinds.h"
 
 #include <type_traits>
@@ -39,6 +40,8 @@ void registerEditors(frmMain &window)
     window.setEditor(Kind::Music, [](frmMain &main) { openEditor<frmMusic>(Kind::Music, main); });
     window.setEditor(Kind::SFX, [](frmMain &main) { openEditor<frmSFX>(Kind::SFX, main); });
     window.setEditor(Kind::Scene, [](frmMain &main) { openEditor<frmScene>(Kind::Scene, main); });
+    window.setEditor(Kind::Sprite,
+                     [](frmMain &main) { openEditor<frmSprite>(Kind::Sprite, main); });
 }
 
 } // namespace vorlane

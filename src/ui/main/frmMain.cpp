@@ -3,6 +3,8 @@
 #include "frmAbout.h"
 #include "frmDataProjName.h"
 #include "frmProgress.h"
+#include "ObjectListView.h"
+#include "QuickStatsView.h"
 #include "generate/GenerateCommands.h"
 #include "model/Kinds.h"
 #include "rules/ObjectManagement.h"
@@ -24,8 +26,6 @@
 namespace vorlane {
 
 namespace {
-
-constexpr int SlotRole = Qt::UserRole;
 
 QString qs(const std::string &text)
 {
@@ -75,29 +75,12 @@ void frmMain::connectHandlers()
     connect(m_ui.DataTabStrip, &QTabBar::currentChanged, this, [this](int index) {
         DataTabStrip_Click(index + 1);
     });
-    for (int tab = 2; tab <= 10; ++tab) {
-        QListWidget *list = objectList(tab);
-        connect(list, &QListWidget::currentRowChanged, this, [this, tab](int row) {
-            if (m_mirroring)
-                return;
-            m_doc.list(kindOfTab(tab)).selected = row;
-            lstObjects_Click(tab);
-        });
-        // A line stays selected: Ctrl+click must not leave Edit and Remove acting on a line
-        // that no longer looks selected.
-        connect(list, &QListWidget::itemSelectionChanged, this, [list]() {
-            if (list->selectedItems().isEmpty() && list->currentItem())
-                list->currentItem()->setSelected(true);
-        });
-        // A click on the line that is already selected refreshes the statistics too.
-        connect(list, &QListWidget::itemClicked, this, [this, tab, list](QListWidgetItem *item) {
-            m_doc.list(kindOfTab(tab)).selected = list->row(item);
-            lstObjects_Click(tab);
-        });
-        connect(list, &QListWidget::itemDoubleClicked, this, [this, tab](QListWidgetItem *) {
-            lstObjects_DblClick(tab);
-        });
-    }
+    for (int tab = 2; tab <= 10; ++tab)
+        m_listViews[static_cast<size_t>(tab)] = new ObjectListView(
+            objectList(tab),
+            m_doc.list(kindOfTab(tab)),
+            [this, tab]() { lstObjects_Click(tab); },
+            [this, tab]() { lstObjects_DblClick(tab); });
     connect(
         m_ui.txtAppRootFolder, &QLineEdit::textChanged, this, &frmMain::txtAppRootFolder_Change);
     connect(m_ui.cmdObjAdd, &QPushButton::clicked, this, &frmMain::cmdObjAdd_Click);
@@ -164,20 +147,7 @@ void frmMain::DataTabStrip_Click(int tab)
 
 void frmMain::showList(Kind kind)
 {
-    const int tab = tabOf(kind);
-    QListWidget *widget = objectList(tab);
-    const ObjectList &list = m_doc.list(kind);
-    m_mirroring = true;
-    widget->clear();
-    for (const ListLine &line : list.lines) {
-        auto *item = new QListWidgetItem(qs(line.text));
-        item->setData(SlotRole, static_cast<int>(line.slot));
-        widget->addItem(item);
-    }
-    widget->setCurrentRow(list.selected);
-    m_mirroring = false;
-    if (list.selected >= 0)
-        lstObjects_Click(tab);
+    m_listViews[static_cast<size_t>(tabOf(kind))]->show();
 }
 
 void frmMain::lstObjects_Click(int index)
@@ -209,11 +179,7 @@ void frmMain::setEditor(Kind kind, EditorOpener opener)
 
 void frmMain::applyStats(const QuickStats &stats, QFrame *cover)
 {
-    if (cover)
-        cover->setVisible(stats.cover);
-    for (const StatLabel &label : stats.labels)
-        if (label.caption)
-            setLabelCaption(label.label.c_str(), *label.caption);
+    showQuickStats(*this, stats, cover);
 }
 
 void frmMain::UpdateAppStats()
@@ -266,12 +232,6 @@ void frmMain::cmdObjRemove_Click()
         m_ui.cmdObjEdit->setEnabled(true);
         coverFrame(m_currentTab)->setVisible(true);
     }
-}
-
-void frmMain::setLabelCaption(const char *labelName, const std::string &caption)
-{
-    if (auto *label = findChild<QLabel *>(QString::fromUtf8(labelName)))
-        label->setText(qs(caption));
 }
 
 void frmMain::projectOpened()

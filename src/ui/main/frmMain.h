@@ -14,6 +14,7 @@ class QListWidget;
 
 namespace vorlane {
 
+class ObjectListView;
 class UserInterface;
 class frmProgress;
 class Registry;
@@ -84,7 +85,6 @@ private:
     void projectOpened();
     void showCaption();
     void applyStats(const QuickStats &stats, QFrame *cover);
-    void setLabelCaption(const char *labelName, const std::string &caption);
     void selectFirstTab();
     // Save and Save As; true when the project file was written.
     bool saveProject();
@@ -97,8 +97,8 @@ private:
     UserInterface &m_userInterface;
     frmProgress *m_progress = nullptr;
     int m_currentTab = 0;
-    bool m_mirroring = false;
     std::array<QListWidget *, TabCount + 1> m_lists{};
+    std::array<ObjectListView *, TabCount + 1> m_listViews{};
     std::array<QFrame *, TabCount + 1> m_tabs{};
     std::array<QFrame *, TabCount + 1> m_covers{};
     std::array<EditorOpener, KindCount> m_editors;

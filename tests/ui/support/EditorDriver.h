@@ -11,30 +11,39 @@
 #include <QTest>
 
 #include <functional>
+#include <utility>
 
 namespace vorlane {
 
-// Clicks Edit Properties and runs `action` on the editor of type `Editor` once it is shown.
-// Returns true when `action` closed the editor itself; otherwise the test closes it with the
-// close box, so a failed check never leaves a modal window open. An editor that never shows
-// fails the test.
-template<class Editor>
-bool editProperties(frmMain &window, std::function<void(Editor *)> action)
+// Clicks `opener` and runs `action` on the dialog of type `Dialog` once it is shown. Returns
+// true when `action` closed the dialog itself; otherwise the test closes it with the close
+// box, so a failed check never leaves a modal window open. A dialog that never shows fails
+// the test.
+template<class Dialog>
+bool clickToOpen(QPushButton *opener, std::function<void(Dialog *)> action)
 {
     bool closedByAction = false;
     bool shown = false;
-    whenModalShown<Editor>([&](Editor *editor) {
+    whenModalShown<Dialog>([&](Dialog *dialog) {
         shown = true;
-        QPointer<Editor> guard(editor);
-        action(editor);
+        QPointer<Dialog> guard(dialog);
+        action(dialog);
         closedByAction = !guard || !guard->isVisible();
         if (guard && guard->isVisible())
             guard->close();
     });
-    clickButton(window.form().cmdObjEdit);
+    clickButton(opener);
     if (!shown)
-        QTest::qFail("Edit Properties showed no editor", __FILE__, __LINE__);
+        QTest::qFail("no window showed", __FILE__, __LINE__);
     return closedByAction;
+}
+
+// Clicks Edit Properties and runs `action` on the editor of type `Editor` once it is shown,
+// as clickToOpen does.
+template<class Editor>
+bool editProperties(frmMain &window, std::function<void(Editor *)> action)
+{
+    return clickToOpen<Editor>(window.form().cmdObjEdit, std::move(action));
 }
 
 // Empties a text box as a user does: select everything, then Backspace.

@@ -1,0 +1,153 @@
+#include "frmAnim.h"
+
+#include "ObjectListView.h"
+#include "frmSprite.h"
+#include "rules/FieldRules.h"
+#include "rules/FrameSequence.h"
+
+#include <QSignalBlocker>
+
+#include <cstddef>
+
+namespace vorlane {
+
+frmAnim::frmAnim(Document &doc, frmSprite &spriteEditor)
+    : EditorForm(doc, Kind::Sprite, spriteEditor.mainWindow(), &spriteEditor)
+    , m_spriteEditor(spriteEditor)
+    , m_sprite(doc.Sprites.at(static_cast<size_t>(doc.currentObjectIndex)))
+    , m_anim(m_sprite.anims.at(static_cast<size_t>(doc.currentAnimIndex)))
+{
+    m_ui.setupUi(this);
+    m_rowView = new ObjectListView(m_ui.lstAnimSequence, m_rows, []() {});
+    declareBindings();
+    connect(m_ui.txtAnimSequenceAdd,
+            &QLineEdit::textChanged,
+            this,
+            &frmAnim::txtAnimSequenceAdd_Change);
+    connect(
+        m_ui.cmdAnimSequenceAdd, &QPushButton::clicked, this, &frmAnim::cmdAnimSequenceAdd_Click);
+    connect(m_ui.cmdAnimSequenceDelete,
+            &QPushButton::clicked,
+            this,
+            &frmAnim::cmdAnimSequenceDelete_Click);
+    connect(m_ui.cmdAnimSequenceUp, &QPushButton::clicked, this, &frmAnim::cmdAnimSequenceUp_Click);
+    connect(
+        m_ui.cmdAnimSequenceDown, &QPushButton::clicked, this, &frmAnim::cmdAnimSequenceDown_Click);
+}
+
+frmAnim::~frmAnim() = default;
+
+void frmAnim::newRecordDefaults()
+{
+    setAnimDefaults(m_anim);
+}
+
+SlotView frmAnim::recordSlot()
+{
+    return SlotView{m_anim.inUse, m_anim.isNew, m_anim.id};
+}
+
+// The bindings in the order the load fills them.
+void frmAnim::declareBindings()
+{
+    AnimRec &a = m_anim;
+    loadStep([this]() {
+        setWindowTitle(QStringLiteral("Animation Data - ") + QString::fromStdString(m_sprite.id));
+    });
+    bindIdentifier(m_ui.txtAnimID, a.id);
+    loadStep([this]() {
+        m_rows = frameRows(m_anim);
+        m_rowView->show();
+        const int rows = static_cast<int>(m_rows.lines.size());
+        if (rows >= 1) {
+            m_ui.cmdAnimSequenceDelete->setEnabled(true);
+            if (rows >= 2)
+                enableControls({m_ui.cmdAnimSequenceDown, m_ui.cmdAnimSequenceUp}, true);
+        } else {
+            enableControls(
+                {m_ui.cmdAnimSequenceDelete, m_ui.cmdAnimSequenceUp, m_ui.cmdAnimSequenceDown},
+                false);
+        }
+    });
+    bindNumber(m_ui.txtAnimDelaysAnim, a.animDelay);
+    bindNumber(m_ui.txtAnimDelaysFrame, a.frameDelay);
+    bindCheck(m_ui.chkAnimPlay, a.play);
+    bindCheck(m_ui.chkAnimRepeat, a.repeat);
+    bindOptions(
+        {{m_ui.optAnimDirectionForward, int16_t(1)}, {m_ui.optAnimDirectionReverse, int16_t(-1)}},
+        a.direction);
+    // Any direction other than forward shows as reverse.
+    loadStep([this]() {
+        if (m_anim.direction != 1 && m_anim.direction != -1) {
+            const QSignalBlocker blocker(m_ui.optAnimDirectionReverse);
+            m_ui.optAnimDirectionReverse->setChecked(true);
+        }
+    });
+    bindText(
+        m_ui.txtAnimDefaultFrame,
+        [&a]() { return std::to_string(a.defaultFrame); },
+        [&a](const std::string &text) {
+            const NumberOutcome outcome = defaultFrameRule(text);
+            a.defaultFrame = static_cast<int16_t>(outcome.value);
+            return outcome.boxText;
+        });
+}
+
+void frmAnim::txtAnimSequenceAdd_Change()
+{
+    m_ui.cmdAnimSequenceAdd->setEnabled(!m_ui.txtAnimSequenceAdd->text().isEmpty());
+}
+
+void frmAnim::cmdAnimSequenceAdd_Click()
+{
+    const std::string typed = m_ui.txtAnimSequenceAdd->text().toStdString();
+    if (const auto refusal = addFrame(m_anim, m_rows, typed, document().frameOverflow)) {
+        userInterface().showMessage(*refusal);
+        return;
+    }
+    m_rowView->show();
+    m_ui.cmdAnimSequenceDelete->setEnabled(true);
+    if (m_rows.lines.size() > 1) {
+        m_ui.cmdAnimSequenceDown->setEnabled(true);
+        if (m_rows.selected != 0)
+            m_ui.cmdAnimSequenceUp->setEnabled(true);
+    }
+    m_ui.txtAnimSequenceAdd->clear();
+    m_ui.txtAnimSequenceAdd->setFocus();
+}
+
+void frmAnim::cmdAnimSequenceDelete_Click()
+{
+    if (!deleteFrame(m_anim, m_rows))
+        return;
+    m_rowView->show();
+    if (m_rows.lines.empty()) {
+        enableControls({m_ui.cmdAnimSequenceDelete,
+                        m_ui.cmdAnimSequenceUp,
+                        m_ui.cmdAnimSequenceDown,
+                        m_ui.cmdAnimSequenceAdd},
+                       false);
+        m_ui.txtAnimSequenceAdd->setFocus();
+    }
+}
+
+void frmAnim::cmdAnimSequenceUp_Click()
+{
+    if (moveFrameUp(m_anim, m_rows))
+        m_rowView->show();
+}
+
+void frmAnim::cmdAnimSequenceDown_Click()
+{
+    if (moveFrameDown(m_anim, m_rows))
+        m_rowView->show();
+}
+
+void frmAnim::handBack()
+{
+    // The count first, so the sprite editor's statistics show it.
+    m_anim.frameCount = static_cast<int16_t>(m_rows.lines.size());
+    m_spriteEditor.animationHandedBack(m_anim.id);
+}
+
+} // namespace vorlane
