@@ -64,8 +64,6 @@ void setSceneDefaults(SceneRec &scene)
     scene.useCursor = 1;
     scene.useMusic = 1;
     scene.layerCount = 0;
-    for (LayerRec &layer : scene.layers)
-        layer.inUse = 0;
 }
 
 LayerList sceneLayerList(const SceneRec &scene)

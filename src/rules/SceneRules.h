@@ -40,8 +40,8 @@ std::string layerTypeCaption(int objectKind);
 // that are not new, in the main window's list order. None for any other entry.
 std::vector<std::string> layerObjectChoices(const Document &doc, int choice);
 
-// A new scene's own defaults: both options on, no layers. Layer slots that an earlier scene
-// of the same slot left in use are freed, so that they are never saved with the new scene.
+// A new scene's own defaults: both options on, a layer count of 0. Layer slots that an
+// earlier scene of the same slot left in use keep their flags, as removal and New leave them.
 void setSceneDefaults(SceneRec &scene);
 
 // The scene editor's layer list: each line's text is the layer's objectId, its item data

@@ -114,7 +114,7 @@ TEST(SceneRules, ChoiceOffersThatKindsObjectsInListOrderWithoutNewOnes)
     EXPECT_TRUE(layerObjectChoices(*doc, 5).empty());
 }
 
-TEST(SceneRules, NewSceneDefaultsFreeLeftOverLayers)
+TEST(SceneRules, NewSceneDefaultsKeepLeftOverLayers)
 {
     SceneRec scene = sceneWithLayers({0, 3, 100});
     scene.useCursor = 0;
@@ -123,9 +123,21 @@ TEST(SceneRules, NewSceneDefaultsFreeLeftOverLayers)
     EXPECT_EQ(scene.useCursor, 1);
     EXPECT_EQ(scene.useMusic, 1);
     EXPECT_EQ(scene.layerCount, 0);
-    for (const LayerRec &layer : scene.layers)
-        EXPECT_EQ(layer.inUse, 0);
-    EXPECT_EQ(scene.layers[3].objectId, "L3"); // only the flags go
+    EXPECT_EQ(scene.layers[0].inUse, -1);
+    EXPECT_EQ(scene.layers[3].inUse, -1);
+    EXPECT_EQ(scene.layers[100].inUse, -1);
+    EXPECT_EQ(scene.layers[1].inUse, 0);
+    EXPECT_EQ(scene.layers[3].objectId, "L3");
+    // With a layer count of 0 the editor lists none of them.
+    EXPECT_TRUE(sceneLayerList(scene).lines.empty());
+
+    // The leftovers keep their slots: a new layer takes the first slot after them.
+    LayerList layers = sceneLayerList(scene);
+    int16_t overflow = 0;
+    const LayerAddResult added = addLayer(scene, overflow, layers, 1, "txtTitle");
+    EXPECT_EQ(added.slot, 1);
+    EXPECT_EQ(slots(layers), std::vector<int>{1});
+    EXPECT_EQ(overflow, 0);
 }
 
 TEST(SceneRules, OpeningListsUsedLayersInSlotOrder)

@@ -179,21 +179,56 @@ private slots:
         QCOMPARE(mainLabel("lblSceneStatsMusic")->text(), QStringLiteral("Stop Music: YES"));
     }
 
-    void freshSceneDropsLayersLeftInItsSlot()
+    void freshSceneKeepsLayersLeftInItsSlot()
     {
-        // Slot 0 held a scene with layers before; the new scene there starts with none.
+        // Slot 0 held a scene with layers before; opening the new scene there sets its own
+        // fields only, and the leftover layers keep their slots.
         prepareScene({0, 1, 2}, 3);
         scene().inUse = 0;
         scene().isNew = -1;
         edit([this](frmScene *editor) {
             QCOMPARE(editor->form().lstSceneLayers->count(), 0);
-            for (const LayerRec &layer : scene().layers)
-                QCOMPARE(layer.inUse, int16_t(0));
+            QCOMPARE(scene().layerCount, int16_t(0));
+            for (int slot : {0, 1, 2})
+                QCOMPARE(scene().layers[static_cast<size_t>(slot)].inUse, int16_t(-1));
+            QCOMPARE(scene().layers[3].inUse, int16_t(0));
             addLayer(editor, 0, 0);
-            QCOMPARE(listSlots(editor->form().lstSceneLayers), QList<int>({0}));
+            QCOMPARE(listTexts(editor->form().lstSceneLayers), QStringList({"txtTitle"}));
+            QCOMPARE(listSlots(editor->form().lstSceneLayers), QList<int>({3}));
+            QCOMPARE(scene().layers[3].objectId, std::string("txtTitle"));
+            QCOMPARE(scene().layers[0].objectId, std::string("L0"));
+            QCOMPARE(m_doc->layerOverflow, int16_t(0));
         });
         QCOMPARE(scene().layerCount, int16_t(1));
-        QCOMPARE(scene().layers[1].inUse, int16_t(0));
+        QCOMPARE(scene().layers[1].inUse, int16_t(-1));
+    }
+
+    void leftoverLayersInEverySlotBringInTheOverflowCounter()
+    {
+        std::vector<int> used;
+        for (int slot = 0; slot <= 100; ++slot)
+            used.push_back(slot);
+        prepareScene(used, 101);
+        scene().inUse = 0;
+        scene().isNew = -1;
+        QCOMPARE(m_doc->layerOverflow, int16_t(0)); // New set it to 0
+        edit([this](frmScene *editor) {
+            const auto &f = editor->form();
+            QCOMPARE(f.lstSceneLayers->count(), 0);
+            addLayer(editor, 1, 0);
+            QVERIFY(m_ui->messages.empty());
+            QCOMPARE(listTexts(f.lstSceneLayers), QStringList({"sprHero"}));
+            QCOMPARE(listSlots(f.lstSceneLayers), QList<int>({0}));
+            QCOMPARE(scene().layers[0].objectId, std::string("sprHero"));
+            QCOMPARE(scene().layers[0].objectKind, int16_t(2));
+            QCOMPARE(scene().layers[1].objectId, std::string("L1"));
+            QCOMPARE(m_doc->layerOverflow, int16_t(1));
+            addLayer(editor, 0, 0);
+            QCOMPARE(listSlots(f.lstSceneLayers), QList<int>({0, 1}));
+            QCOMPARE(scene().layers[1].objectId, std::string("txtTitle"));
+            QCOMPARE(m_doc->layerOverflow, int16_t(2));
+        });
+        QCOMPARE(scene().layerCount, int16_t(2));
     }
 
     void emptyingTheIdPutsEnterIdBack()
@@ -255,17 +290,31 @@ private slots:
 
     void addIsOnOnceAnObjectIsChosen()
     {
-        edit([](frmScene *editor) {
+        edit([this](frmScene *editor) {
             const auto &f = editor->form();
             chooseEntry(f.cmbSceneLayerObjects, 0);
             QVERIFY(!f.cmdSceneLayerAdd->isEnabled());
             clickLine(f.lstSceneLayerObjects, 0);
             QVERIFY(f.cmdSceneLayerAdd->isEnabled());
-            // Another kind empties the object list, and Add waits for a new choice.
+            // Another kind refills the object list with nothing chosen; Add stays on.
             chooseEntry(f.cmbSceneLayerObjects, 3);
             QCOMPARE(listTexts(f.lstSceneLayerObjects), QStringList({"btnStart"}));
-            QVERIFY(!f.cmdSceneLayerAdd->isEnabled());
+            QVERIFY(f.lstSceneLayerObjects->selectedItems().isEmpty());
+            QVERIFY(f.cmdSceneLayerAdd->isEnabled());
+            // Add, or a double click, with no object chosen places nothing.
+            clickButton(f.cmdSceneLayerAdd);
+            editor->lstSceneLayerObjects_DblClick();
             QCOMPARE(f.lstSceneLayers->count(), 0);
+            QVERIFY(m_ui->messages.empty());
+            for (const LayerRec &layer : scene().layers)
+                QCOMPARE(layer.inUse, int16_t(0));
+            QVERIFY(f.cmdSceneLayerAdd->isEnabled());
+            QCOMPARE(layerButtons(f), QList<bool>({true, false, false, false}));
+            // Once an object is chosen, Add places it with the kind now chosen.
+            clickLine(f.lstSceneLayerObjects, 0);
+            clickButton(f.cmdSceneLayerAdd);
+            QCOMPARE(listTexts(f.lstSceneLayers), QStringList({"btnStart"}));
+            QCOMPARE(scene().layers[0].objectKind, int16_t(4));
         });
     }
 
@@ -301,6 +350,10 @@ private slots:
             QCOMPARE(m_doc->layerOverflow, int16_t(0));
         });
         QCOMPARE(scene().layerCount, int16_t(2));
+        // The line was refreshed before the count was stored: the statistics shown on closing
+        // carry the count from before, the next selection of the line the new one.
+        QCOMPARE(mainLabel("lblSceneStatsLayers")->text(), QStringLiteral("# of Layers: 0"));
+        clickLine(m_window->objectList(10), 0);
         QCOMPARE(mainLabel("lblSceneStatsLayers")->text(), QStringLiteral("# of Layers: 2"));
     }
 
@@ -617,9 +670,25 @@ private slots:
         QCOMPARE(s.layerCount, int16_t(3));
         QCOMPARE(s.useCursor, int16_t(0));
         QVERIFY(!m_window->coverFrame(10)->isVisible());
-        QCOMPARE(mainLabel("lblSceneStatsLayers")->text(), QStringLiteral("# of Layers: 3"));
+        // The options are already stored; the number of layers is stored after the hand-back.
+        QCOMPARE(mainLabel("lblSceneStatsLayers")->text(), QStringLiteral("# of Layers: 0"));
         QCOMPARE(mainLabel("lblSceneStatsCursor")->text(), QStringLiteral("Show Mouse: NO"));
         QCOMPARE(mainLabel("lblSceneStatsMusic")->text(), QStringLiteral("Stop Music: YES"));
+        clickLine(m_window->objectList(10), 1);
+        QCOMPARE(mainLabel("lblSceneStatsLayers")->text(), QStringLiteral("# of Layers: 3"));
+
+        // Reopened and closed with one layer fewer, the statistics show 3 until the line
+        // is selected again.
+        QVERIFY(edit([](frmScene *editor) {
+            const auto &f = editor->form();
+            clickLine(f.lstSceneLayers, 0);
+            clickButton(f.cmdSceneLayerDelete);
+            QTest::keyClick(f.lstSceneLayers, Qt::Key_Escape);
+        }));
+        QCOMPARE(scene(1).layerCount, int16_t(2));
+        QCOMPARE(mainLabel("lblSceneStatsLayers")->text(), QStringLiteral("# of Layers: 3"));
+        clickLine(m_window->objectList(10), 1);
+        QCOMPARE(mainLabel("lblSceneStatsLayers")->text(), QStringLiteral("# of Layers: 2"));
     }
 
     void doubleClickOnTheSceneListOpensTheEditor()

@@ -135,8 +135,6 @@ void frmScene::cmbSceneLayerObjects_Click()
     for (const std::string &id :
          layerObjectChoices(document(), m_ui.cmbSceneLayerObjects->currentIndex()))
         objects->addItem(QString::fromStdString(id));
-    // The new list has no object chosen, and Add has nothing to place until one is.
-    m_ui.cmdSceneLayerAdd->setEnabled(false);
 }
 
 void frmScene::lstSceneLayerObjects_Click()
@@ -151,6 +149,7 @@ void frmScene::lstSceneLayerObjects_DblClick()
 
 void frmScene::cmdSceneLayerAdd_Click()
 {
+    // With no object chosen (another kind was chosen since) there is nothing to place.
     const QList<QListWidgetItem *> chosen = m_ui.lstSceneLayerObjects->selectedItems();
     const int choice = m_ui.cmbSceneLayerObjects->currentIndex();
     if (chosen.isEmpty() || !layerObjectKind(choice + 1))
@@ -209,8 +208,10 @@ void frmScene::lstSceneLayers_Click()
 
 void frmScene::handBack()
 {
-    m_scene.layerCount = static_cast<int16_t>(m_layers.lines.size());
+    // The main window's line is refreshed first, so its statistics still show the number of
+    // layers from before; the line's next selection shows the new one.
     EditorForm::handBack();
+    m_scene.layerCount = static_cast<int16_t>(m_layers.lines.size());
 }
 
 } // namespace vorlane

@@ -40,7 +40,7 @@ public:
 
 protected:
     void newRecordDefaults() override;
-    // Stores the number of layers, then hands the scene back to the main window's list.
+    // Hands the scene back to the main window's list, then stores the number of layers.
     void handBack() override;
 
 private:
