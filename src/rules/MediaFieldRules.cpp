@@ -19,11 +19,6 @@ auto &recordAt(Table &table, int slot)
 
 } // namespace
 
-bool isMediaKind(Kind kind)
-{
-    return kind == Kind::Font || kind == Kind::Music || kind == Kind::SFX;
-}
-
 MediaFields mediaFields(Document &doc, Kind kind, int slot)
 {
     switch (kind) {

@@ -15,9 +15,6 @@ struct MediaFields
     MusicRec *playback; // volume, priority and pan; none for a font
 };
 
-// True for the three kinds that differ only in these fields: fonts, music and sound effects.
-bool isMediaKind(Kind kind);
-
 // The fields of the record in `slot` of the table of `kind`. Throws std::invalid_argument for
 // a kind other than the three, std::out_of_range for a slot outside its table.
 MediaFields mediaFields(Document &doc, Kind kind, int slot);

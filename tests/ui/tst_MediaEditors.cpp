@@ -442,6 +442,32 @@ private slots:
         }
     }
 
+    // The editor works on the slot a line carries, which after a removal is not its row.
+    void editsTheSlotOfTheSelectedLine_data() { kindRows(); }
+    void editsTheSlotOfTheSelectedLine()
+    {
+        QFETCH(QString, name);
+        const Kind kind = kindNamed(name);
+        addObject(kind);
+        addObject(kind);
+        QListWidget *list = m_window->objectList(tabOf(kind));
+        clickLine(list, 0);
+        clickButton(m_window->form().cmdObjRemove);
+        addObject(kind); // takes the freed slot 0, on the second line
+        QCOMPARE(listSlots(list), QList<int>({1, 0}));
+        QCOMPARE(list->currentRow(), 1);
+        QVERIFY(edit([&](EditorForm *editor) {
+            QCOMPARE(editor->slot(), 0);
+            typeInto(box(editor, "txt" + name + "ID"), QStringLiteral("slotZero"));
+            QTest::keyClick(editor, Qt::Key_Escape);
+        }));
+        QCOMPARE(idOf(kind, 0), std::string("slotZero"));
+        QCOMPARE(slotFlags(kind, 1).isNew, int16_t(-1));
+        QCOMPARE(listTexts(list), QStringList({"New_Object1", "slotZero"}));
+        QCOMPARE(listSlots(list), QList<int>({1, 0}));
+        QCOMPARE(list->currentRow(), 1);
+    }
+
     void closeBoxClosesTheSameWay_data() { kindRows(); }
     void closeBoxClosesTheSameWay()
     {
