@@ -1,7 +1,10 @@
 #include "RegisterEditors.h"
 
 #include "frmButton.h"
+#include "frmCursor.h"
+#include "frmImage.h"
 #include "frmMain.h"
+#include "frmText.h"
 #include "model/Kinds.h"
 
 namespace vorlane {
@@ -24,6 +27,10 @@ void registerEditors(frmMain &window)
 {
     window.setEditor(Kind::Button,
                      [](frmMain &main) { openEditor<frmButton>(Kind::Button, main); });
+    window.setEditor(Kind::Image, [](frmMain &main) { openEditor<frmImage>(Kind::Image, main); });
+    window.setEditor(Kind::Cursor,
+                     [](frmMain &main) { openEditor<frmCursor>(Kind::Cursor, main); });
+    window.setEditor(Kind::Text, [](frmMain &main) { openEditor<frmText>(Kind::Text, main); });
 }
 
 } // namespace vorlane
