@@ -381,7 +381,6 @@ private slots:
                                     "txtTextClipHeight",
                                     "txtTextDelay",
                                     "chkTextRepeat",
-                                    "txtTextPoint",
                                     "chkTextVisible",
                                     "chkTextCenter",
                                     "optTextType_0",
@@ -396,6 +395,7 @@ private slots:
                                     "chkTextStylesBold",
                                     "chkTextStylesItalic",
                                     "chkTextStylesUnderline",
+                                    "txtTextPoint",
                                     "txtTextID"};
             QCOMPARE(tabWalk(editor->form().txtTextID, int(order.size())), order);
         });
