@@ -230,6 +230,24 @@ private slots:
         QCOMPARE(statsLabel("lblImageStatsBound"), QStringLiteral("Is Bound: YES"));
     }
 
+    void doubleClickOnTheLineOpensTheEditor()
+    {
+        bool shown = false;
+        whenModalShown<frmImage>([&shown](frmImage *editor) {
+            shown = true;
+            typeInto(editor->form().txtImageID, QStringLiteral("backdrop"));
+            QTest::keyClick(editor, Qt::Key_Escape);
+        });
+        QListWidget *list = m_window->objectList(tabOf(Kind::Image));
+        const QPoint line = list->visualItemRect(list->item(0)).center();
+        // A double click is a click followed by a second one.
+        QTest::mouseClick(list->viewport(), Qt::LeftButton, {}, line);
+        QTest::mouseDClick(list->viewport(), Qt::LeftButton, {}, line);
+        QVERIFY(shown);
+        QCOMPARE(listTexts(list), QStringList({"backdrop"}));
+        QCOMPARE(image().id, std::string("backdrop"));
+    }
+
     void reopeningAnEditedImageKeepsItsValues()
     {
         edit([](frmImage *editor) {
