@@ -292,6 +292,79 @@ private slots:
         QCOMPARE(button().captionTextId, std::string("txtHello"));
     }
 
+    // A button as a project file can hold it: identifier and references empty.
+    void giveEmptyFields()
+    {
+        button().isNew = 0;
+        button().inUse = -1;
+        button().id.clear();
+        button().templateId = "tiles";
+        button().cursorId.clear();
+        button().iconId.clear();
+        button().captionTextId.clear();
+    }
+
+    void emptyFieldsStayEmptyWhenTheButtonIsOpenedAndClosed()
+    {
+        giveEmptyFields();
+        edit([this](frmButton *editor) {
+            const auto &f = editor->form();
+            // Showing an empty field in an empty box changes no text, so no rule runs.
+            QCOMPARE(f.txtButtonID->text(), QString());
+            QCOMPARE(f.cmbButtonCursor->currentText(), QString());
+            QCOMPARE(f.cmbButtonIcon->currentText(), QString());
+            QCOMPARE(f.cmbButtonCaption->currentText(), QString());
+            // A shown text that differs from the box's runs its rule: "null" is emptied.
+            QCOMPARE(f.cmbButtonSoundUp->currentText(), QString());
+            QCOMPARE(f.cmbButtonTemplate->currentText(), QStringLiteral("tiles"));
+        });
+        QCOMPARE(button().id, std::string());
+        QCOMPARE(button().cursorId, std::string());
+        QCOMPARE(button().iconId, std::string());
+        QCOMPARE(button().captionTextId, std::string());
+        QCOMPARE(button().templateId, std::string("tiles"));
+        QCOMPARE(listTexts(m_window->objectList(tabOf(Kind::Button))), QStringList({""}));
+    }
+
+    void emptyFieldsResetTheTemplateWhenAHotSpotTurnsBackIntoAButton()
+    {
+        giveEmptyFields();
+        button().id = "_Quit";
+        button().isHotSpot = 1;
+        edit([this](frmButton *editor) {
+            const auto &f = editor->form();
+            QTest::mouseClick(f.optButton, Qt::LeftButton);
+            QCOMPARE(f.txtButtonID->text(), QStringLiteral("Quit"));
+            // The empty cursor stores "null" and empties the box, which writes "null" into the
+            // caption; the empty icon stores "null" again; the caption is no longer empty.
+            QCOMPARE(f.cmbButtonTemplate->currentText(), QString());
+            QCOMPARE(button().templateId, std::string("null"));
+            QCOMPARE(button().captionTextId, std::string("null"));
+            QCOMPARE(button().cursorId, std::string());
+            QCOMPARE(button().iconId, std::string());
+        });
+    }
+
+    void escapeInAnOpenListClosesOnlyTheList()
+    {
+        addOpened(tabOf(Kind::Cursor), cursor, "arrow");
+        clickTab(*m_window, tabOf(Kind::Button));
+        const bool closed = edit([](frmButton *editor) {
+            QComboBox *box = editor->form().cmbButtonCursor;
+            box->setFocus();
+            box->showPopup();
+            QVERIFY(QTest::qWaitForWindowExposed(box->view()->window()));
+            // The list takes the press; the release reaches the drop-down once it is gone.
+            QTest::keyPress(box->view(), Qt::Key_Escape);
+            QTRY_VERIFY(!box->view()->window()->isVisible());
+            QTest::keyRelease(box, Qt::Key_Escape);
+            QVERIFY(editor->isVisible());
+            QTest::keyClick(box, Qt::Key_Escape);
+            QVERIFY(!editor->isVisible());
+        });
+        QVERIFY(closed);
+    }
+
     void escapeClosesAndTheListShowsTheNewIdentifier()
     {
         addObject(tabOf(Kind::Button));

@@ -82,6 +82,8 @@ public:
         id = addRow<QLineEdit>(layout, "txtCursorID");
         image = addRow<QComboBox>(layout, "cmbCursorImage");
         image->setEditable(true);
+        // Designed showing "null", as the cursor editor's form is: the first fill changes it.
+        image->setEditText(QStringLiteral("null"));
         center = addRow<QRadioButton>(layout, "Center");
         upperLeft = addRow<QRadioButton>(layout, "Upper-left");
         lowerLeft = addRow<QRadioButton>(layout, "Lower-left");
@@ -115,6 +117,7 @@ public:
         content = addRow<QLineEdit>(layout, "txtTextContent");
         point = addRow<QLineEdit>(layout, "txtTextPoint");
         mix = addRow<QLineEdit>(layout, "txtSoundMix");
+        content->setText(QStringLiteral("null")); // designed so, as the text editor's form is
         bindContent(content, text.content);
         bindNumber(point, text.pointSize, numberWithEmptyText("12"));
         bindNumber(mix, doc.AppSettings.soundMix);

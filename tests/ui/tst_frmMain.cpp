@@ -10,6 +10,7 @@
 #include <QLabel>
 #include <QMenu>
 #include <QMenuBar>
+#include <QTemporaryDir>
 #include <QTest>
 
 #include <memory>
@@ -462,6 +463,24 @@ private slots:
         QCOMPARE(m_ui->messages[0].title, std::string("Save Data"));
         QVERIFY(m_ui->messages[0].buttons == MessageButtons::YesNo);
         QVERIFY(m_ui->messages[0].icon == MessageIcon::Question);
+    }
+
+    void saveThatDropsEveryLineDisablesRemove()
+    {
+        newProject(*m_window);
+        clickTab(*m_window, tabOf(Kind::Image));
+        clickButton(m_window->form().cmdObjAdd);
+        QVERIFY(m_window->form().cmdObjRemove->isEnabled());
+        QTemporaryDir dir;
+        QVERIFY(dir.isValid());
+        m_ui->fileChoices = {dir.filePath(QStringLiteral("p.dvb")).toStdString()};
+        m_ui->answers = {MessageAnswer::Yes}; // drop the object never opened
+        m_window->form().mnuSaveAs->trigger();
+        QCOMPARE(m_window->objectList(tabOf(Kind::Image))->count(), 0);
+        // The shown list is empty, so Remove has nothing left to act on; Edit stays as it was.
+        QVERIFY(!m_window->form().cmdObjRemove->isEnabled());
+        QVERIFY(m_window->form().cmdObjEdit->isEnabled());
+        m_doc->ProjectInfo.projectFilePath.clear();
     }
 
     void onlineHelpOpensTheManual()

@@ -117,9 +117,22 @@ void EditorForm::keyPressEvent(QKeyEvent *event)
 
 bool EditorForm::eventFilter(QObject *watched, QEvent *event)
 {
-    if (event->type() == QEvent::KeyRelease) {
+    if (event->type() == QEvent::KeyPress || event->type() == QEvent::ShortcutOverride) {
         auto *key = static_cast<QKeyEvent *>(event);
         auto *widget = qobject_cast<QWidget *>(watched);
+        // An Escape pressed while a drop-down's list is open closes only the list; its
+        // release, which reaches the drop-down once the list is gone, must not close the editor.
+        const bool inList = QApplication::activePopupWidget() ||
+                            (widget && widget->window()->windowType() == Qt::Popup);
+        if (key->key() == Qt::Key_Escape && !key->isAutoRepeat() && inList)
+            m_escapeClosesList = true;
+    } else if (event->type() == QEvent::KeyRelease) {
+        auto *key = static_cast<QKeyEvent *>(event);
+        auto *widget = qobject_cast<QWidget *>(watched);
+        if (key->key() == Qt::Key_Escape && !key->isAutoRepeat() && m_escapeClosesList) {
+            m_escapeClosesList = false;
+            return true;
+        }
         if (widget && widget->window() == this && key->key() == Qt::Key_Escape &&
             !key->isAutoRepeat()) {
             Form_KeyUp(EscapeKeyCode);

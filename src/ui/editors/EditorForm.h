@@ -120,6 +120,7 @@ private:
     frmMain *m_mainWindow;
     int m_slot;
     bool m_unloaded = false;
+    bool m_escapeClosesList = false;
     std::vector<std::unique_ptr<FieldBinding>> m_bindings;
     std::unique_ptr<QtUserInterface> m_ownUserInterface;
 };

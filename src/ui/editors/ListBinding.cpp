@@ -28,11 +28,14 @@ ListBinding::~ListBinding()
 void ListBinding::fill()
 {
     {
+        // Refilling the list leaves the text as it was; only showing the field may change it.
         const QSignalBlocker blocker(m_box);
+        const QString before = m_box->currentText();
         m_box->clear();
         for (const std::string &id : m_offer())
             m_box->addItem(QString::fromStdString(id));
         m_box->setCurrentIndex(-1);
+        m_box->setEditText(before);
     }
     TextBinding::fill();
 }

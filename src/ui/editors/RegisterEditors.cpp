@@ -1,47 +1,44 @@
 #include "RegisterEditors.h"
 
 #include "frmButton.h"
+#include "frmCursor.h"
 #include "frmFont.h"
+#include "frmImage.h"
 #include "frmMain.h"
 #include "frmMusic.h"
 #include "frmSFX.h"
 #include "frmScene.h"
 #include "frmSprite.h"
+#include "frmText.h"
 #include "model/Kinds.h"
-
-#include <type_traits>
 
 namespace vorlane {
 
 namespace {
 
 // Opens `Editor` modally on the current object, which must lie inside its table.
-template<class Editor>
-void openEditor(Kind kind, frmMain &window)
+template<Kind kind, class Editor>
+void openEditor(frmMain &window)
 {
     if (!slotInTable(kind, window.document().currentObjectIndex))
         return;
-    if constexpr (std::is_constructible_v<Editor, Document &, UserInterface &, frmMain *>) {
-        Editor editor(window.document(), window.userInterface(), &window);
-        editor.run();
-    } else {
-        Editor editor(window.document(), &window);
-        editor.run();
-    }
+    Editor editor(window.document(), &window);
+    editor.run();
 }
 
 } // namespace
 
 void registerEditors(frmMain &window)
 {
-    window.setEditor(Kind::Button,
-                     [](frmMain &main) { openEditor<frmButton>(Kind::Button, main); });
-    window.setEditor(Kind::Font, [](frmMain &main) { openEditor<frmFont>(Kind::Font, main); });
-    window.setEditor(Kind::Music, [](frmMain &main) { openEditor<frmMusic>(Kind::Music, main); });
-    window.setEditor(Kind::SFX, [](frmMain &main) { openEditor<frmSFX>(Kind::SFX, main); });
-    window.setEditor(Kind::Scene, [](frmMain &main) { openEditor<frmScene>(Kind::Scene, main); });
-    window.setEditor(Kind::Sprite,
-                     [](frmMain &main) { openEditor<frmSprite>(Kind::Sprite, main); });
+    window.setEditor(Kind::Button, openEditor<Kind::Button, frmButton>);
+    window.setEditor(Kind::Cursor, openEditor<Kind::Cursor, frmCursor>);
+    window.setEditor(Kind::Image, openEditor<Kind::Image, frmImage>);
+    window.setEditor(Kind::Text, openEditor<Kind::Text, frmText>);
+    window.setEditor(Kind::Font, openEditor<Kind::Font, frmFont>);
+    window.setEditor(Kind::Music, openEditor<Kind::Music, frmMusic>);
+    window.setEditor(Kind::SFX, openEditor<Kind::SFX, frmSFX>);
+    window.setEditor(Kind::Sprite, openEditor<Kind::Sprite, frmSprite>);
+    window.setEditor(Kind::Scene, openEditor<Kind::Scene, frmScene>);
 }
 
 } // namespace vorlane

@@ -52,11 +52,8 @@ void TextBinding::setText(const std::string &text)
 void TextBinding::fill()
 {
     const std::string shown = m_shown();
-    if (shown != text()) {
+    if (shown != text())
         setText(shown);
-    } else if (m_normalisesOnFill) {
-        changed();
-    }
 }
 
 void TextBinding::changed()

@@ -29,12 +29,9 @@ public:
     TextBinding(QComboBox *box, Shown shown, Change change);
     ~TextBinding() override;
 
-    // Shows the field. A shown text that differs from the box's runs the change handler; an
-    // unchanged one runs it too while `normalisesOnFill` is set, so a rule can turn an empty
-    // field into its stored form ("null", "Enter_ID", "0").
+    // Shows the field. Only a shown text that differs from the box's runs the change handler:
+    // a field shown as the box already shows it (an empty id in an empty box) stays as it is.
     void fill() override;
-    // Handlers that write other fields than their own must not run on an unchanged text.
-    void setNormalisesOnFill(bool normalises) { m_normalisesOnFill = normalises; }
     // Sets the box's text as the program does; a different text runs the change handler.
     void setText(const std::string &text);
     std::string text() const;
@@ -48,7 +45,6 @@ private:
     Shown m_shown;
     Change m_change;
     QMetaObject::Connection m_connection;
-    bool m_normalisesOnFill = true;
 };
 
 } // namespace vorlane

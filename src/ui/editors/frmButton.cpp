@@ -116,9 +116,6 @@ void frmButton::declareBindings()
         [this]() { return m_button.templateId; },
         [this](const std::string &text) { return templateBoxChanged(m_button, text); },
         [this](const std::string &chosen) { m_button.templateId = chosen; });
-    // The template box writes "null" into the caption when it is empty: showing a template
-    // that is already empty must not run it, or reopening a button would drop its caption.
-    m_template->setNormalisesOnFill(false);
     bindList(m_ui.cmbButtonIcon, b.iconId, Kind::Image, imageIsBound);
     bindList(m_ui.cmbButtonCursor, b.cursorId, Kind::Cursor);
     bindList(m_ui.cmbButtonCaption, b.captionTextId, Kind::Text);

@@ -25,13 +25,9 @@ void keepLineSelected(QListWidget *list)
 
 } // namespace
 
-frmScene::frmScene(Document &doc,
-                   UserInterface &userInterface,
-                   frmMain *mainWindow,
-                   QWidget *parent)
+frmScene::frmScene(Document &doc, frmMain *mainWindow, QWidget *parent)
     : EditorForm(doc, Kind::Scene, mainWindow, parent ? parent : mainWindow)
     , m_scene(doc.Scenes.at(static_cast<size_t>(doc.currentObjectIndex)))
-    , m_userInterface(userInterface)
 {
     m_ui.setupUi(this);
     // No kind is chosen until the user chooses one, so no object is offered yet.
@@ -161,7 +157,7 @@ void frmScene::cmdSceneLayerAdd_Click()
                                            static_cast<int16_t>(choice + 1),
                                            object->text().toStdString());
     if (result.refusal) {
-        m_userInterface.showMessage(*result.refusal);
+        userInterface().showMessage(*result.refusal);
         return;
     }
     showLayers();

@@ -8,7 +8,6 @@
 
 namespace vorlane {
 
-class UserInterface;
 class frmMain;
 
 // The scene editor: one SceneRec, its two options and its layers, each layer placing one
@@ -17,12 +16,8 @@ class frmScene : public EditorForm
 {
     Q_OBJECT
 public:
-    // Edits the scene at the document's current object index; the layer limit is reported
-    // through `userInterface`.
-    frmScene(Document &doc,
-             UserInterface &userInterface,
-             frmMain *mainWindow = nullptr,
-             QWidget *parent = nullptr);
+    // Edits the scene at the document's current object index.
+    frmScene(Document &doc, frmMain *mainWindow = nullptr, QWidget *parent = nullptr);
 
     // Event handlers.
     void cmbSceneLayerObjects_Click();
@@ -52,7 +47,6 @@ private:
 
     Ui::frmScene m_ui;
     SceneRec &m_scene;
-    UserInterface &m_userInterface;
     LayerList m_layers;
     bool m_mirroring = false;
 };

@@ -1,0 +1,38 @@
+#include "frmCursor.h"
+
+#include "frmMain.h"
+#include "rules/CursorFieldRules.h"
+#include "rules/FieldRules.h"
+
+#include <QRadioButton>
+
+#include <cstddef>
+
+namespace vorlane {
+
+frmCursor::frmCursor(Document &doc, frmMain *mainWindow, QWidget *parent)
+    : EditorForm(doc, Kind::Cursor, mainWindow, parent ? parent : mainWindow)
+    , m_cursor(doc.Cursors.at(static_cast<size_t>(doc.currentObjectIndex)))
+{
+    m_ui.setupUi(this);
+    // The bindings in the order the load fills them. The image box is designed showing "null",
+    // so showing a new cursor's empty image changes it and stores "null".
+    bindIdentifier(m_ui.txtCursorID, m_cursor.id);
+    bindList(m_ui.cmbCursorImage, m_cursor.imageId, Kind::Image, imageIsBound);
+    std::vector<Option> options;
+    for (const CursorOrientation &orientation : CursorOrientations)
+        options.emplace_back(orientationOption(orientation.code), orientation.code);
+    bindOptions(std::move(options), m_cursor.orientation);
+}
+
+QRadioButton *frmCursor::orientationOption(int code) const
+{
+    return findChild<QRadioButton *>(QStringLiteral("optCursorOrient_%1").arg(code));
+}
+
+void frmCursor::newRecordDefaults()
+{
+    setCursorDefaults(m_cursor);
+}
+
+} // namespace vorlane
