@@ -1,8 +1,8 @@
 #include "rules/ObjectManagement.h"
 
 #include "model/Kinds.h"
+#include "rules/SlotAllocation.h"
 
-#include <algorithm>
 #include <string>
 
 namespace vorlane {
@@ -29,30 +29,22 @@ AddResult addObject(Document &doc, Kind kind)
     if (static_cast<int>(list.lines.size()) >= lastSlot)
         return AddResult{objectOverloadMessage(kind)};
 
-    int found = -1;
-    for (int slot = 0; slot <= lastSlot; ++slot) {
+    const SlotChoice choice = chooseSlot(lastSlot, doc.objectCount(kind), [&](int slot) {
         const SlotView view = slotOf(doc, kind, slot);
-        if (view.inUse == 0 && view.isNew == 0) {
-            found = slot;
-            break;
-        }
-    }
-
-    // With no free slot, or only the last one, the kind's object count is the slot to use.
-    int16_t &overflow = doc.objectCount(kind);
-    const bool useOverflow = found == -1 || found == lastSlot;
+        return view.inUse == 0 && view.isNew == 0;
+    });
     // A count past the table's end (a long run of such fallbacks) has no slot to give: refuse
     // as for a full list rather than write outside the table.
-    if (useOverflow && !slotInTable(kind, overflow))
+    if (choice.fromOverflow && !slotInTable(kind, choice.slot))
         return AddResult{objectOverloadMessage(kind)};
 
-    int16_t slot = static_cast<int16_t>(found);
-    if (found != -1)
-        slotOf(doc, kind, found).isNew = -1; // stays reserved even when the fallback is used
-    if (useOverflow) {
-        slot = overflow;
+    // The first free slot stays reserved even when the object count names the slot to use.
+    if (choice.firstFree != -1)
+        slotOf(doc, kind, choice.firstFree).isNew = -1;
+    const auto slot = static_cast<int16_t>(choice.slot);
+    if (choice.fromOverflow) {
         slotOf(doc, kind, slot).isNew = -1;
-        ++overflow;
+        ++doc.objectCount(kind);
     }
 
     list.lines.push_back({"New_Object" + std::to_string(doc.newObjectCounter), slot});
@@ -84,8 +76,7 @@ RemoveResult removeObject(Document &doc, Kind kind)
     list.lines.erase(list.lines.begin() + position);
 
     const int remaining = count - 1;
-    // The line now at the removed position, or the last line when the removed one was last.
-    list.selected = remaining > 0 ? std::min(position, remaining - 1) : -1;
+    list.selected = selectionAfterRemoval(position, remaining);
 
     result.removed = true;
     result.slot = slot;
