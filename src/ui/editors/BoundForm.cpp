@@ -137,9 +137,9 @@ TextBinding &BoundForm::bindContent(QLineEdit *box, std::string &field)
 }
 
 TextBinding &BoundForm::bindNumberTo(QLineEdit *box,
-                                      std::function<int32_t()> shown,
-                                      std::function<void(int32_t)> store,
-                                      NumberField rule)
+                                     std::function<int32_t()> shown,
+                                     std::function<void(int32_t)> store,
+                                     NumberField rule)
 {
     return bindText(
         box,
@@ -169,11 +169,11 @@ ListBinding &BoundForm::bindList(QComboBox *box, std::string &field, Kind kind, 
 }
 
 ListBinding &BoundForm::bindList(QComboBox *box,
-                                  Kind kind,
-                                  ListFilter filter,
-                                  TextBinding::Shown shown,
-                                  TextBinding::Change change,
-                                  ListBinding::Click click)
+                                 Kind kind,
+                                 ListFilter filter,
+                                 TextBinding::Shown shown,
+                                 TextBinding::Change change,
+                                 ListBinding::Click click)
 {
     auto offer = [this, kind, filter = std::move(filter)]() {
         return offeredIds(m_doc, kind, filter);
