@@ -21,12 +21,17 @@ bool isBlank(char c)
 
 } // namespace
 
-TextOutcome identifierRule(std::string_view text)
+TextOutcome defaultedTextRule(std::string_view text, std::string_view emptyText)
 {
     TextOutcome outcome{std::string(text), std::nullopt};
     if (text.empty())
-        outcome.boxText = std::string(EnterId);
+        outcome.boxText = std::string(emptyText);
     return outcome;
+}
+
+TextOutcome identifierRule(std::string_view text)
+{
+    return defaultedTextRule(text, EnterId);
 }
 
 TextOutcome referenceRule(std::string_view text)

@@ -68,6 +68,10 @@ inline NumberField byteField()
     return NumberField{"0", 255, Int16Range};
 }
 
+// Text boxes that are never empty: the field takes the text; an emptied box shows
+// `emptyText`, which is then stored in turn.
+TextOutcome defaultedTextRule(std::string_view text, std::string_view emptyText);
+
 // Identifier boxes: the text is the id; an emptied box shows "Enter_ID".
 TextOutcome identifierRule(std::string_view text);
 

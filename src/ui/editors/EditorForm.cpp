@@ -4,72 +4,27 @@
 #include "frmMain.h"
 #include "rules/EditorHandBack.h"
 
-#include <QApplication>
-#include <QCheckBox>
-#include <QComboBox>
-#include <QKeyEvent>
-#include <QLineEdit>
-
-#include <utility>
-
 namespace vorlane {
 
-namespace {
-
-// A load step that shows no field of its own.
-class LoadStep : public FieldBinding
-{
-public:
-    explicit LoadStep(std::function<void()> step)
-        : m_step(std::move(step))
-    {}
-    void fill() override { m_step(); }
-
-private:
-    std::function<void()> m_step;
-};
-
-// A text rule writing its value into a text field.
-TextBinding::Change storeWith(std::string &field, TextOutcome (*rule)(std::string_view))
-{
-    return [&field, rule](const std::string &text) {
-        TextOutcome outcome = rule(text);
-        field = std::move(outcome.value);
-        return outcome.boxText;
-    };
-}
-
-} // namespace
-
 EditorForm::EditorForm(Document &doc, Kind kind, frmMain *mainWindow, QWidget *parent)
-    : QDialog(parent)
-    , m_doc(doc)
+    : BoundForm(doc, parent)
     , m_kind(kind)
     , m_mainWindow(mainWindow)
     , m_slot(doc.currentObjectIndex)
-{
-    setModal(true);
-    // The editor sees every key released in it, whichever control has the focus: text boxes
-    // keep their key releases to themselves.
-    qApp->installEventFilter(this);
-}
+{}
 
-EditorForm::~EditorForm()
-{
-    qApp->removeEventFilter(this);
-}
+EditorForm::~EditorForm() = default;
 
 SlotView EditorForm::recordSlot()
 {
-    return slotOf(m_doc, m_kind, m_slot);
+    return slotOf(document(), m_kind, m_slot);
 }
 
 void EditorForm::Form_Load()
 {
     SlotView record = recordSlot();
     applyNewRecordDefaults(record, [this](SlotView &) { newRecordDefaults(); });
-    for (const auto &binding : m_bindings)
-        binding->fill();
+    fillControls();
 }
 
 void EditorForm::Form_Unload()
@@ -79,174 +34,9 @@ void EditorForm::Form_Unload()
 
 void EditorForm::handBack()
 {
-    handBackToList(m_doc, m_kind, recordSlot().id);
+    handBackToList(document(), m_kind, recordSlot().id);
     if (m_mainWindow)
         m_mainWindow->showList(m_kind);
-}
-
-void EditorForm::Form_KeyUp(int keyCode)
-{
-    if (keyCode == EscapeKeyCode)
-        close();
-}
-
-int EditorForm::run()
-{
-    Form_Load();
-    return exec();
-}
-
-void EditorForm::done(int result)
-{
-    if (!m_unloaded) {
-        m_unloaded = true;
-        Form_Unload();
-    }
-    QDialog::done(result);
-}
-
-void EditorForm::keyPressEvent(QKeyEvent *event)
-{
-    // Escape acts when it is released, like every other close; pressing it does nothing.
-    if (event->key() == Qt::Key_Escape) {
-        event->accept();
-        return;
-    }
-    QDialog::keyPressEvent(event);
-}
-
-bool EditorForm::eventFilter(QObject *watched, QEvent *event)
-{
-    if (event->type() == QEvent::KeyPress || event->type() == QEvent::ShortcutOverride) {
-        auto *key = static_cast<QKeyEvent *>(event);
-        auto *widget = qobject_cast<QWidget *>(watched);
-        // An Escape pressed while a drop-down's list is open closes only the list; its
-        // release, which reaches the drop-down once the list is gone, must not close the editor.
-        const bool inList = QApplication::activePopupWidget() ||
-                            (widget && widget->window()->windowType() == Qt::Popup);
-        if (key->key() == Qt::Key_Escape && !key->isAutoRepeat() && inList)
-            m_escapeClosesList = true;
-    } else if (event->type() == QEvent::KeyRelease) {
-        auto *key = static_cast<QKeyEvent *>(event);
-        auto *widget = qobject_cast<QWidget *>(watched);
-        if (key->key() == Qt::Key_Escape && !key->isAutoRepeat() && m_escapeClosesList) {
-            m_escapeClosesList = false;
-            return true;
-        }
-        if (widget && widget->window() == this && key->key() == Qt::Key_Escape &&
-            !key->isAutoRepeat()) {
-            Form_KeyUp(EscapeKeyCode);
-            return true;
-        }
-    }
-    return QDialog::eventFilter(watched, event);
-}
-
-template<class Binding>
-Binding &EditorForm::add(std::unique_ptr<Binding> binding)
-{
-    Binding &added = *binding;
-    m_bindings.push_back(std::move(binding));
-    return added;
-}
-
-TextBinding &EditorForm::bindIdentifier(QLineEdit *box, std::string &field)
-{
-    return bindText(
-        box, [&field]() { return field; }, storeWith(field, identifierRule));
-}
-
-TextBinding &EditorForm::bindReference(QLineEdit *box, std::string &field)
-{
-    return bindText(
-        box, [&field]() { return field; }, storeWith(field, referenceRule));
-}
-
-TextBinding &EditorForm::bindContent(QLineEdit *box, std::string &field)
-{
-    return bindText(
-        box, [&field]() { return field; }, storeWith(field, contentRule));
-}
-
-TextBinding &EditorForm::bindNumberTo(QLineEdit *box,
-                                      std::function<int32_t()> shown,
-                                      std::function<void(int32_t)> store,
-                                      NumberField rule)
-{
-    return bindText(
-        box,
-        [shown = std::move(shown)]() { return std::to_string(shown()); },
-        [store = std::move(store), rule = std::move(rule)](const std::string &text) {
-            const NumberOutcome outcome = numberRule(text, rule);
-            store(outcome.value);
-            return outcome.boxText;
-        });
-}
-
-TextBinding &
-EditorForm::bindText(QLineEdit *box, TextBinding::Shown shown, TextBinding::Change change)
-{
-    return add(std::make_unique<TextBinding>(box, std::move(shown), std::move(change)));
-}
-
-ListBinding &EditorForm::bindList(QComboBox *box, std::string &field, Kind kind, ListFilter filter)
-{
-    return bindList(
-        box,
-        kind,
-        std::move(filter),
-        [&field]() { return field; },
-        storeWith(field, referenceRule),
-        [&field](const std::string &chosen) { field = chosen; });
-}
-
-ListBinding &EditorForm::bindList(QComboBox *box, std::string &field, ListBinding::Offer offer)
-{
-    return add(std::make_unique<ListBinding>(
-        box,
-        std::move(offer),
-        [&field]() { return field; },
-        storeWith(field, referenceRule),
-        [&field](const std::string &chosen) { field = chosen; }));
-}
-
-ListBinding &EditorForm::bindList(QComboBox *box,
-                                  Kind kind,
-                                  ListFilter filter,
-                                  TextBinding::Shown shown,
-                                  TextBinding::Change change,
-                                  ListBinding::Click click)
-{
-    auto offer = [this, kind, filter = std::move(filter)]() {
-        return offeredIds(m_doc, kind, filter);
-    };
-    return add(std::make_unique<ListBinding>(
-        box, std::move(offer), std::move(shown), std::move(change), std::move(click)));
-}
-
-CheckBinding &EditorForm::bindCheck(QCheckBox *box, int16_t &field, std::function<void()> then)
-{
-    return add(std::make_unique<CheckBinding>(
-        box,
-        [&field]() { return field == 1; },
-        [&field, then = std::move(then)](bool checked) {
-            field = checkRule(checked);
-            if (then)
-                then();
-        }));
-}
-
-OptionBinding &EditorForm::bindOptions(std::vector<Option> options, int16_t &field)
-{
-    return add(std::make_unique<OptionBinding>(
-        std::move(options),
-        [&field]() { return field; },
-        [&field](int16_t code) { field = code; }));
-}
-
-void EditorForm::loadStep(std::function<void()> step)
-{
-    add(std::make_unique<LoadStep>(std::move(step)));
 }
 
 UserInterface &EditorForm::userInterface()
@@ -256,12 +46,6 @@ UserInterface &EditorForm::userInterface()
     if (!m_ownUserInterface)
         m_ownUserInterface = std::make_unique<QtUserInterface>(this);
     return *m_ownUserInterface;
-}
-
-void EditorForm::enableControls(const std::vector<QWidget *> &controls, bool enabled)
-{
-    for (QWidget *control : controls)
-        control->setEnabled(enabled);
 }
 
 } // namespace vorlane

@@ -1,25 +1,10 @@
 #pragma once
 
-#include "CheckBinding.h"
-#include "ListBinding.h"
-#include "OptionBinding.h"
-#include "TextBinding.h"
-#include "rules/FieldRules.h"
+#include "BoundForm.h"
 #include "model/Kinds.h"
 #include "model/modGlobal.h"
 
-#include <QDialog>
-
-#include <cstdint>
-#include <functional>
 #include <memory>
-#include <string>
-#include <type_traits>
-#include <vector>
-
-class QCheckBox;
-class QComboBox;
-class QLineEdit;
 
 namespace vorlane {
 
@@ -31,36 +16,25 @@ class UserInterface;
 // bindings from its controls to the record's fields; loading applies the new-record defaults
 // and fills the controls in the order the bindings were declared; Escape and the close box
 // both close it through done(), which hands the record's id back to the main window's list.
-class EditorForm : public QDialog
+class EditorForm : public BoundForm
 {
     Q_OBJECT
 public:
-    // Key code of Escape, the one key an editor handles.
-    static constexpr int EscapeKeyCode = 27;
-
     // Edits the record of `kind` at the document's current object index. Without a main
     // window the hand-back changes only the document's list.
     EditorForm(Document &doc, Kind kind, frmMain *mainWindow, QWidget *parent = nullptr);
     ~EditorForm() override;
 
     // Applies the defaults when the record was never opened, then fills every control.
-    void Form_Load();
+    void Form_Load() override;
     // Hands the record back to the main window's list.
-    void Form_Unload();
-    void Form_KeyUp(int keyCode);
+    void Form_Unload() override;
 
-    // Loads the editor and shows it modally; returns when it closes.
-    int run();
-
-    Document &document() { return m_doc; }
     Kind kind() const { return m_kind; }
     int slot() const { return m_slot; }
     frmMain *mainWindow() const { return m_mainWindow; }
     // Where the editor's messages go: the main window's, or message boxes of its own.
     UserInterface &userInterface();
-
-    // Every close, by Escape, the close box or code, ends here.
-    void done(int result) override;
 
 protected:
     // The kind's own defaults of a new record; id and slot flags are set by Form_Load.
@@ -70,71 +44,11 @@ protected:
     // The closing hand-back; by default to the main window's list of the editor's kind.
     virtual void handBack();
 
-    // Identifier box: an emptied box shows "Enter_ID".
-    TextBinding &bindIdentifier(QLineEdit *box, std::string &field);
-    // Path box: an empty box stores "null", a typed "null" empties it.
-    TextBinding &bindReference(QLineEdit *box, std::string &field);
-    // Optional text: an empty box stores "null", a typed "null" stays.
-    TextBinding &bindContent(QLineEdit *box, std::string &field);
-    // Number box of a 16-bit or 32-bit field.
-    template<class Int>
-    TextBinding &bindNumber(QLineEdit *box, Int &field, NumberField rule = {});
-    // Any other text box: how it shows its field and what its change does.
-    TextBinding &bindText(QLineEdit *box, TextBinding::Shown shown, TextBinding::Change change);
-    // Drop-down of objects of `kind` (not new, and passing `filter`), following the
-    // reference rule; choosing an entry stores it.
-    ListBinding &bindList(QComboBox *box, std::string &field, Kind kind, ListFilter filter = {});
-    // Drop-down offering what `offer` gives, following the reference rule; choosing an entry
-    // stores it.
-    ListBinding &bindList(QComboBox *box, std::string &field, ListBinding::Offer offer);
-    // Drop-down of objects of `kind` whose text change does something of its own.
-    ListBinding &bindList(QComboBox *box,
-                          Kind kind,
-                          ListFilter filter,
-                          TextBinding::Shown shown,
-                          TextBinding::Change change,
-                          ListBinding::Click click);
-    // Check box storing 1 or 0; `then` runs after each click has been stored.
-    CheckBinding &bindCheck(QCheckBox *box, int16_t &field, std::function<void()> then = {});
-    // Option group storing the chosen option's code.
-    OptionBinding &bindOptions(std::vector<Option> options, int16_t &field);
-    // A step of the load that is not a field of its own (captions, enabled controls); it runs
-    // in its place among the fills.
-    void loadStep(std::function<void()> step);
-
-    static void enableControls(const std::vector<QWidget *> &controls, bool enabled);
-
 private:
-    template<class Binding>
-    Binding &add(std::unique_ptr<Binding> binding);
-    TextBinding &bindNumberTo(QLineEdit *box,
-                              std::function<int32_t()> shown,
-                              std::function<void(int32_t)> store,
-                              NumberField rule);
-
-    void keyPressEvent(QKeyEvent *event) override;
-    bool eventFilter(QObject *watched, QEvent *event) override;
-
-    Document &m_doc;
     Kind m_kind;
     frmMain *m_mainWindow;
     int m_slot;
-    bool m_unloaded = false;
-    bool m_escapeClosesList = false;
-    std::vector<std::unique_ptr<FieldBinding>> m_bindings;
     std::unique_ptr<QtUserInterface> m_ownUserInterface;
 };
-
-template<class Int>
-TextBinding &EditorForm::bindNumber(QLineEdit *box, Int &field, NumberField rule)
-{
-    static_assert(std::is_same_v<Int, int16_t> || std::is_same_v<Int, int32_t>);
-    rule.range = std::is_same_v<Int, int32_t> ? Int32Range : Int16Range;
-    return bindNumberTo(
-        box,
-        [&field]() { return static_cast<int32_t>(field); },
-        [&field](int32_t value) { field = static_cast<Int>(value); },
-        std::move(rule));
-}
 
 } // namespace vorlane

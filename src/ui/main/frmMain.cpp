@@ -13,6 +13,13 @@
 #include "rules/UserInterface.h"
 #include "project/Open.h"
 #include "project/Save.h"
+#include "frmAppLogProps.h"
+#include "frmAppSoundProps.h"
+#include "frmAppSplashProps.h"
+#include "frmAppWindowProps.h"
+#include "frmLogCustom.h"
+#include "frmLogFile.h"
+#include "frmLogType.h"
 
 #include <QCloseEvent>
 #include <QCoreApplication>
@@ -30,6 +37,14 @@ namespace {
 QString qs(const std::string &text)
 {
     return QString::fromStdString(text);
+}
+
+// Loads a settings or filter dialog and shows it modally; returns when it closes.
+template<class Dialog, class... Args>
+void showModal(Args &&...args)
+{
+    Dialog dialog(std::forward<Args>(args)...);
+    dialog.run();
 }
 
 } // namespace
@@ -95,6 +110,13 @@ void frmMain::connectHandlers()
     connect(m_ui.mnuExit, &QAction::triggered, this, &frmMain::mnuExit_Click);
     connect(m_ui.mnuOnlineHelp, &QAction::triggered, this, &frmMain::mnuOnlineHelp_Click);
     connect(m_ui.mnuAbout, &QAction::triggered, this, &frmMain::mnuAbout_Click);
+    connect(m_ui.cmdAppWindowProps, &QPushButton::clicked, this, &frmMain::cmdAppWindowProps_Click);
+    connect(m_ui.cmdAppSoundProps, &QPushButton::clicked, this, &frmMain::cmdAppSoundProps_Click);
+    connect(m_ui.cmdAppSplashProps, &QPushButton::clicked, this, &frmMain::cmdAppSplashProps_Click);
+    connect(m_ui.cmdAppLogProps, &QPushButton::clicked, this, &frmMain::cmdAppLogProps_Click);
+    connect(m_ui.cmdLogEditType, &QPushButton::clicked, this, &frmMain::cmdLogEditType_Click);
+    connect(m_ui.cmdLogEditFile, &QPushButton::clicked, this, &frmMain::cmdLogEditFile_Click);
+    connect(m_ui.cmdLogEditCustom, &QPushButton::clicked, this, &frmMain::cmdLogEditCustom_Click);
 }
 
 void frmMain::Form_Load()
@@ -418,6 +440,41 @@ void frmMain::mnuAbout_Click()
         [](const QString &program) { return QProcess::startDetached(program, {}); },
         this);
     about.exec();
+}
+
+void frmMain::cmdAppWindowProps_Click()
+{
+    showModal<frmAppWindowProps>(m_doc, this);
+}
+
+void frmMain::cmdAppSoundProps_Click()
+{
+    showModal<frmAppSoundProps>(m_doc, this);
+}
+
+void frmMain::cmdAppSplashProps_Click()
+{
+    showModal<frmAppSplashProps>(m_doc, this);
+}
+
+void frmMain::cmdAppLogProps_Click()
+{
+    showModal<frmAppLogProps>(m_doc, this);
+}
+
+void frmMain::cmdLogEditType_Click()
+{
+    showModal<frmLogType>(m_doc, this);
+}
+
+void frmMain::cmdLogEditFile_Click()
+{
+    showModal<frmLogFile>(m_doc, this);
+}
+
+void frmMain::cmdLogEditCustom_Click()
+{
+    showModal<frmLogCustom>(m_doc, m_userInterface, this);
 }
 
 } // namespace vorlane

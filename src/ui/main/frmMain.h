@@ -50,6 +50,14 @@ public:
     void mnuExit_Click();
     void mnuOnlineHelp_Click();
     void mnuAbout_Click();
+    // The settings and log filter dialogs of the application and log pages.
+    void cmdAppWindowProps_Click();
+    void cmdAppSoundProps_Click();
+    void cmdAppSplashProps_Click();
+    void cmdAppLogProps_Click();
+    void cmdLogEditType_Click();
+    void cmdLogEditFile_Click();
+    void cmdLogEditCustom_Click();
 
     void UpdateAppStats();
     void updateObjectStats(Kind kind, int slot);
