@@ -26,8 +26,8 @@ set(CPACK_PACKAGE_NAME vorlane)
 set(CPACK_PACKAGE_VENDOR "The Vorlane developers")
 set(CPACK_PACKAGE_CONTACT "${VORLANE_MAINTAINER}")
 set(CPACK_PACKAGE_DESCRIPTION_SUMMARY "editor for the data of Korrin 2D engine games")
-set(CPACK_DEBIAN_PACKAGE_DESCRIPTION "${CPACK_PACKAGE_DESCRIPTION_SUMMARY}
-Vorlane is a desktop editor for the data of games made with the Korrin 2D
+# The long description; cpack puts the summary before it as its first line.
+set(CPACK_DEBIAN_PACKAGE_DESCRIPTION "Vorlane is a desktop editor for the data of games made with the Korrin 2D
 engine: buttons, images, cursors, texts, fonts, music tracks, sound effects,
 sprites with their animations and scenes with their layers, plus the
 application's window, screen, sound, splash-screen and log settings. A project

@@ -38,7 +38,8 @@ others="$(find "$stage" ! -type d | grep -v "^$root/" || true)"
 for file in bin/vorlane bin/vorlane-cli share/applications/$app.desktop \
     share/metainfo/$app.metainfo.xml share/icons/hicolor/scalable/apps/$app.svg \
     share/man/man1/vorlane-cli.1.gz share/man/man1/vorlane.1.gz share/doc/vorlane/copyright \
-    share/doc/vorlane/changelog.Debian.gz share/doc/vorlane/manual/index.html; do
+    share/doc/vorlane/changelog.Debian.gz share/doc/vorlane/manual/index.html \
+    share/doc-base/vorlane-manual; do
     [ -f "$root/$file" ] || fail "$file is not installed"
 done
 
@@ -94,6 +95,9 @@ done
 render vorlane
 grep -q "$prefix/share/doc/vorlane/manual/index.html" "$stage/vorlane.txt" ||
     fail "vorlane.1 does not name the installed manual"
+
+grep -qx "Index: $prefix/share/doc/vorlane/manual/index.html" "$root/share/doc-base/vorlane-manual" ||
+    fail "the doc-base registration does not name the installed manual"
 
 # The user manual: every page and picture of the source tree, and every page's links resolve.
 manual="$root/share/doc/vorlane/manual"
