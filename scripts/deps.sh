@@ -21,4 +21,10 @@ ensure_packages() {
     "${sudo[@]}" env DEBIAN_FRONTEND=noninteractive apt-get install -y -qq --no-install-recommends "${missing[@]}" >/dev/null
 }
 
-BUILD_PACKAGES=(cmake ninja-build g++ pkg-config qt6-base-dev libgl-dev libgtest-dev libgmock-dev)
+BUILD_PACKAGES=(cmake ninja-build g++ pkg-config qt6-base-dev libgl-dev libgtest-dev libgmock-dev
+    librsvg2-bin)
+# The staging-install test validates the installed desktop entry, metainfo and manual page.
+TEST_PACKAGES=(desktop-file-utils appstream man-db)
+# scripts/package: dpkg-shlibdeps (dpkg-dev, which reads the binaries with file) computes the
+# package's dependencies; lintian checks the package.
+PACKAGE_PACKAGES=(dpkg-dev file lintian)

@@ -243,7 +243,8 @@ private slots:
         app().CustomFilters[4] = {-1, "four"};
         app().customFilterCount = 1;
         customFilters([this](frmLogCustom *d) {
-            QCOMPARE(d->form().lstCustomFilter->currentRow(), -1);
+            // The list may hold the keyboard focus on its first line; nothing is selected.
+            QVERIFY(d->form().lstCustomFilter->selectedItems().isEmpty());
             QVERIFY(d->form().cmdCustomRemove->isEnabled());
             clickButton(d->form().cmdCustomRemove);
             QCOMPARE(listTexts(d->form().lstCustomFilter), QStringList({"four"}));

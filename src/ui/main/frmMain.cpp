@@ -9,6 +9,7 @@
 #include "model/Kinds.h"
 #include "rules/ObjectManagement.h"
 #include "rules/QuickStats.h"
+#include "platform/ManualPlaces.h"
 #include "platform/Registry.h"
 #include "rules/UserInterface.h"
 #include "project/Open.h"
@@ -29,6 +30,8 @@
 #include <QListWidget>
 #include <QProcess>
 #include <QUrl>
+
+#include <filesystem>
 
 namespace vorlane {
 
@@ -412,11 +415,11 @@ void frmMain::closeEvent(QCloseEvent *event)
 
 QString frmMain::manualPath()
 {
-    const QString besideProgram = QCoreApplication::applicationDirPath() +
-                                  QStringLiteral("/../share/vorlane/manual/index.html");
-    if (QFileInfo::exists(besideProgram))
-        return QFileInfo(besideProgram).canonicalFilePath();
-    return QStringLiteral(VORLANE_DOCS_DIR) + QStringLiteral("/manual/index.html");
+    const ManualPlaces places{VORLANE_MANUAL_FROM_BINDIR,
+                              std::filesystem::path(VORLANE_DOCS_DIR) / "manual",
+                              VORLANE_BUILD_DIR};
+    const auto page = findManualPage(QCoreApplication::applicationDirPath().toStdString(), places);
+    return QString::fromStdString(page.string());
 }
 
 void frmMain::mnuOnlineHelp_Click()
