@@ -121,6 +121,10 @@ private slots:
         });
         QVERIFY(closed);
         QCOMPARE(listTexts(window.objectList(tabOf(Kind::Sprite))), QStringList({"hero"}));
+        // The line is refreshed before the count is stored; selecting it shows the count.
+        QCOMPARE(window.findChild<QLabel *>(QStringLiteral("lblSpriteStatsAnimCount"))->text(),
+                 QStringLiteral("# of Anims: 0"));
+        clickLine(window.objectList(tabOf(Kind::Sprite)), 0);
         QCOMPARE(window.findChild<QLabel *>(QStringLiteral("lblSpriteStatsAnimCount"))->text(),
                  QStringLiteral("# of Anims: 2"));
 

@@ -418,8 +418,12 @@ private slots:
             QCOMPARE(listTexts(sprite->form().lstAnimObjects), QStringList({"walk"}));
             QCOMPARE(sprite->form().lstAnimObjects->currentRow(), 0);
             QCOMPARE(itemTexts(sprite->form().cmbSpriteCurrentAnim), QStringList({"walk"}));
-            QCOMPARE(sprite->form().lblAnimStatsFrames->text(), QStringLiteral("# of Frames: 3"));
+            // The row is refreshed before the frame count is stored; selecting it again shows
+            // the stored count.
+            QCOMPARE(sprite->form().lblAnimStatsFrames->text(), QStringLiteral("# of Frames: 0"));
             QCOMPARE(anim().frameCount, int16_t(3));
+            clickLine(sprite->form().lstAnimObjects, 0);
+            QCOMPARE(sprite->form().lblAnimStatsFrames->text(), QStringLiteral("# of Frames: 3"));
         });
     }
 };

@@ -256,6 +256,9 @@ private slots:
             clickButton(editor->form().cmdSpriteNewAnim);
         });
         QCOMPARE(sprite().animCount, int16_t(2));
+        // The line is refreshed before the count is stored; its next selection shows the count.
+        QCOMPARE(label(m_window.get(), "lblSpriteStatsAnimCount"), QStringLiteral("# of Anims: 0"));
+        clickLine(m_window->objectList(tabOf(Kind::Sprite)), 0);
         QCOMPARE(label(m_window.get(), "lblSpriteStatsAnimCount"), QStringLiteral("# of Anims: 2"));
         edit([this](frmSprite *editor) {
             const auto &f = editor->form();
@@ -433,12 +436,18 @@ private slots:
             QCOMPARE(f.lstAnimObjects->currentRow(), 1);
             QCOMPARE(itemTexts(f.cmbSpriteCurrentAnim), QStringList({"walk", "jump"}));
             QVERIFY(!f.fraAnimCover->isVisible());
-            QCOMPARE(f.lblAnimStatsFrames->text(), QStringLiteral("# of Frames: 2"));
+            // The row is refreshed before the frame count is stored.
+            QCOMPARE(f.lblAnimStatsFrames->text(), QStringLiteral("# of Frames: 0"));
             QCOMPARE(anim(1).inUse, int16_t(-1));
             QCOMPARE(anim(1).isNew, int16_t(0));
             QCOMPARE(anim(1).frameCount, int16_t(2));
+            clickLine(f.lstAnimObjects, 1);
+            QCOMPARE(f.lblAnimStatsFrames->text(), QStringLiteral("# of Frames: 2"));
         });
         QCOMPARE(listTexts(m_window->objectList(tabOf(Kind::Sprite))), QStringList({"hero"}));
+        QCOMPARE(sprite().animCount, int16_t(2));
+        QCOMPARE(label(m_window.get(), "lblSpriteStatsAnimCount"), QStringLiteral("# of Anims: 1"));
+        clickLine(m_window->objectList(tabOf(Kind::Sprite)), 0);
         QCOMPARE(label(m_window.get(), "lblSpriteStatsAnimCount"), QStringLiteral("# of Anims: 2"));
     }
 

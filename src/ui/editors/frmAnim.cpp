@@ -145,9 +145,11 @@ void frmAnim::cmdAnimSequenceDown_Click()
 
 void frmAnim::handBack()
 {
-    // The count first, so the sprite editor's statistics show it.
+    // The sprite editor's row is refreshed first, so its statistics still show the number of
+    // frames from before; the row's next selection shows the new one.
+    m_spriteEditor.refreshAnimationRow(m_anim.id);
     m_anim.frameCount = static_cast<int16_t>(m_rows.lines.size());
-    m_spriteEditor.animationHandedBack(m_anim.id);
+    m_spriteEditor.refillCurrentAnimations();
 }
 
 } // namespace vorlane

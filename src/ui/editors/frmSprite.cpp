@@ -115,19 +115,24 @@ void frmSprite::UpdateAnimStats(int indexAnim, int indexSprite)
         *this, vorlane::UpdateAnimStats(document(), indexAnim, indexSprite), m_ui.fraAnimCover);
 }
 
-void frmSprite::animationHandedBack(const std::string &id)
+void frmSprite::refreshAnimationRow(const std::string &id)
 {
     replaceSelectedLine(m_rows, id);
     m_rowView->show();
+}
+
+void frmSprite::refillCurrentAnimations()
+{
     // The list is filled again by slot number; the box keeps showing the stored text.
     m_currentAnim->fill();
 }
 
 void frmSprite::handBack()
 {
-    // The count first, so the main window's statistics show it.
-    m_sprite.animCount = static_cast<int16_t>(m_rows.lines.size());
+    // The main window's line is refreshed first, so its statistics still show the number of
+    // animations from before; the line's next selection shows the new one.
     EditorForm::handBack();
+    m_sprite.animCount = static_cast<int16_t>(m_rows.lines.size());
 }
 
 } // namespace vorlane

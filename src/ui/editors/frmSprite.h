@@ -33,9 +33,11 @@ public:
     // Fills the "Animation Quick Stats" panel for animation `indexAnim` of sprite `indexSprite`.
     void UpdateAnimStats(int indexAnim, int indexSprite);
 
-    // What the closing animation editor hands back: the selected row now reads `id`, and the
-    // Current Animation list is filled again.
-    void animationHandedBack(const std::string &id);
+    // What the closing animation editor hands back, in this order: the selected row now
+    // reads `id` (its statistics refresh); then, after the frame count is stored, the Current
+    // Animation list is filled again.
+    void refreshAnimationRow(const std::string &id);
+    void refillCurrentAnimations();
 
     SpriteRec &record() { return m_sprite; }
     const ObjectList &animationRows() const { return m_rows; }
