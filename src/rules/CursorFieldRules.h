@@ -4,7 +4,6 @@
 
 #include <array>
 #include <cstdint>
-#include <optional>
 #include <string_view>
 
 namespace vorlane {
@@ -20,9 +19,6 @@ struct CursorOrientation
 // options stand in on screen. There is no code 0.
 inline constexpr std::array<CursorOrientation, 5> CursorOrientations{
     {{"Center", 1}, {"Lower-left", 2}, {"Lower-right", 3}, {"Upper-right", 4}, {"Upper-left", 5}}};
-
-// The code of the orientation captioned `caption`; none for another caption.
-std::optional<int16_t> cursorOrientationCode(std::string_view caption);
 
 // The defaults of a new cursor's own fields: an empty image reference (shown and stored as
 // "null" once the image list is filled) and the "Center" orientation.

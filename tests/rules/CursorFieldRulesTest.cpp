@@ -4,20 +4,25 @@
 
 #include <gtest/gtest.h>
 
+#include <string_view>
+#include <utility>
+#include <vector>
+
 namespace vorlane {
 namespace {
 
 TEST(CursorFieldRules, OrientationCodesAreFixedAndNotInScreenOrder)
 {
-    EXPECT_EQ(cursorOrientationCode("Center"), int16_t(1));
-    EXPECT_EQ(cursorOrientationCode("Lower-left"), int16_t(2));
-    EXPECT_EQ(cursorOrientationCode("Lower-right"), int16_t(3));
-    EXPECT_EQ(cursorOrientationCode("Upper-right"), int16_t(4));
-    EXPECT_EQ(cursorOrientationCode("Upper-left"), int16_t(5));
-    EXPECT_EQ(cursorOrientationCode("center"), std::nullopt);
-    EXPECT_EQ(cursorOrientationCode(""), std::nullopt);
-    for (const CursorOrientation &orientation : CursorOrientations)
-        EXPECT_NE(orientation.code, 0) << orientation.caption;
+    const std::vector<std::pair<std::string_view, int16_t>> expected{{"Center", 1},
+                                                                     {"Lower-left", 2},
+                                                                     {"Lower-right", 3},
+                                                                     {"Upper-right", 4},
+                                                                     {"Upper-left", 5}};
+    ASSERT_EQ(CursorOrientations.size(), expected.size());
+    for (size_t i = 0; i < expected.size(); ++i) {
+        EXPECT_EQ(CursorOrientations[i].caption, expected[i].first);
+        EXPECT_EQ(CursorOrientations[i].code, expected[i].second);
+    }
 }
 
 TEST(CursorFieldRules, NewCursorDefaults)

@@ -9,6 +9,7 @@
 #include "frmCursor.h"
 #include "frmImage.h"
 #include "frmMain.h"
+#include "frmSprite.h"
 #include "frmText.h"
 #include "model/Kinds.h"
 
@@ -50,7 +51,8 @@ private:
         editProperties<Editor>(*m_window, std::move(action));
     }
 
-    // The lists of images the four other editors offer, as they open.
+    // The lists of images the other editors offer, as they open: template, icon, cursor image,
+    // selection image and sprite image.
     QList<QStringList> offeredImages()
     {
         QList<QStringList> offered;
@@ -63,6 +65,9 @@ private:
         });
         editFirst<frmText>(Kind::Text, [&](frmText *editor) {
             offered << itemTexts(editor->form().cmbTextSelect);
+        });
+        editFirst<frmSprite>(Kind::Sprite, [&](frmSprite *editor) {
+            offered << itemTexts(editor->form().cmbSpriteImage);
         });
         return offered;
     }
@@ -95,8 +100,9 @@ private slots:
         addAndEdit<frmButton>(Kind::Button, [](frmButton *) {});
         addAndEdit<frmCursor>(Kind::Cursor, [](frmCursor *) {});
         addAndEdit<frmText>(Kind::Text, [](frmText *) {});
+        addAndEdit<frmSprite>(Kind::Sprite, [](frmSprite *) {});
         const QStringList both{"tiles", "icons"};
-        QCOMPARE(offeredImages(), QList<QStringList>({both, both, both, both}));
+        QCOMPARE(offeredImages(), QList<QStringList>({both, both, both, both, both}));
 
         editFirst<frmImage>(Kind::Image, [](frmImage *editor) {
             QCOMPARE(editor->form().txtImageID->text(), QStringLiteral("tiles"));
@@ -104,7 +110,7 @@ private slots:
         });
         QCOMPARE(m_doc->Images[0].bound, int16_t(0));
         const QStringList icons{"icons"};
-        QCOMPARE(offeredImages(), QList<QStringList>({icons, icons, icons, icons}));
+        QCOMPARE(offeredImages(), QList<QStringList>({icons, icons, icons, icons, icons}));
     }
 
     void everyKindEditedThroughItsWindowSurvivesSaveAndOpen()

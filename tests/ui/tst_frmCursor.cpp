@@ -111,6 +111,16 @@ private slots:
         QCOMPARE(statsLabel("lblCursorStatsImage"), QStringLiteral("Cursor Image: null"));
     }
 
+    void reopenedCursorWithoutImageShowsAnEmptyBox()
+    {
+        edit([](frmCursor *) {});
+        QCOMPARE(cursor().imageId, std::string("null"));
+        edit([this](frmCursor *editor) {
+            QCOMPARE(editor->form().cmbCursorImage->currentText(), QString());
+            QCOMPARE(cursor().imageId, std::string("null"));
+        });
+    }
+
     void choosingUpperLeftStores5AndLowerLeftStores2()
     {
         edit([this](frmCursor *editor) {

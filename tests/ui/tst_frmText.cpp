@@ -267,6 +267,20 @@ private slots:
         });
     }
 
+    void reopenedTextWithoutContentShowsNullInItsBox()
+    {
+        edit([](frmText *) {});
+        QCOMPARE(text().content, std::string("null"));
+        // Filling shows the stored content, and the content rule keeps a "null" in the box.
+        edit([this](frmText *editor) {
+            QCOMPARE(editor->form().txtTextContent->text(), QStringLiteral("null"));
+            QCOMPARE(editor->form().cmbTextFontID->currentText(), QString());
+            QCOMPARE(editor->form().cmbTextSelect->currentText(), QString());
+            QCOMPARE(text().content, std::string("null"));
+            QCOMPARE(text().fontId, std::string("null"));
+        });
+    }
+
     void numberBoxesAndChecksStoreTheirFields()
     {
         edit([this](frmText *editor) {

@@ -15,8 +15,9 @@ frmCursor::frmCursor(Document &doc, frmMain *mainWindow, QWidget *parent)
     , m_cursor(doc.Cursors.at(static_cast<size_t>(doc.currentObjectIndex)))
 {
     m_ui.setupUi(this);
-    // The bindings in the order the load fills them. The image box is designed showing "null",
-    // so showing a new cursor's empty image changes it and stores "null".
+    // The bindings in the order the load fills them. The image box is designed showing its own
+    // name, as a freshly placed drop-down does: showing a new cursor's empty image, or a stored
+    // "null", then changes it and the reference rule leaves the box empty and stores "null".
     bindIdentifier(m_ui.txtCursorID, m_cursor.id);
     bindList(m_ui.cmbCursorImage, m_cursor.imageId, Kind::Image, imageIsBound);
     std::vector<Option> options;
