@@ -67,30 +67,7 @@ int main(int argc, char **argv)
     anim.form().picAnimPlayer->stop();
     anim.hide();
 
-    // The example holds no scene yet: one of its objects, as a user would lay it out.
-    SceneRec &scene = doc->Scenes[0];
-    scene.inUse = -1;
-    scene.isNew = 0;
-    scene.id = "scnTitle";
-    const struct
-    {
-        int16_t kind;
-        const char *id;
-    } layers[] = {{3, "imgBackground"},
-                  {4, "btnPlay"},
-                  {4, "btnQuit"},
-                  {4, "_secretZone"},
-                  {2, "sprHero"}};
-    int16_t slot = 0;
-    for (const auto &layer : layers) {
-        LayerRec &rec = scene.layers[static_cast<size_t>(slot++)];
-        rec.inUse = -1;
-        rec.objectKind = layer.kind;
-        rec.objectId = layer.id;
-    }
-    scene.layerCount = slot;
-    doc->list(Kind::Scene).lines.push_back({scene.id, 0});
-    doc->currentObjectIndex = 0;
+    doc->currentObjectIndex = static_cast<int16_t>(slotOf(*doc, Kind::Scene, "scnTitle"));
     frmScene sceneEditor(*doc);
     sceneEditor.Form_Load();
     save(sceneEditor, "docs/images/scene-editor-preview.png");
