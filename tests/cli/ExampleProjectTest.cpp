@@ -45,7 +45,14 @@ TEST(ExampleProject, GeneratesItsEngineFiles)
               "btnQuit  272  260 null  1  0  1  2  3 imgMenuButtons  2  2 null txtQuit  1  1  1 "
               "sfxClick null null null\r\n"
               "_secretZone  600  20 null  1  64  32\r\n");
-    EXPECT_EQ(fileBytes(out / "scene.dat"), "0\r\n");
+    EXPECT_EQ(fileBytes(out / "scene.dat"),
+              " 1\r\n"
+              "scnTitle  1  0  5\r\n"
+              "imgBackground  3\r\n"
+              "sprHero  2\r\n"
+              "btnPlay  4\r\n"
+              "btnQuit  4\r\n"
+              "_secretZone  4\r\n");
     EXPECT_EQ(fileBytes(out / "log.cfg"), " 0\r\n 0\r\n");
     fs::remove_all(root);
 }

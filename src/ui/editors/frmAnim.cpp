@@ -1,9 +1,12 @@
 #include "frmAnim.h"
 
+#include "AnimationPlayer.h"
 #include "ObjectListView.h"
 #include "frmSprite.h"
+#include "rules/AnimationTimeline.h"
 #include "rules/FieldRules.h"
 #include "rules/FrameSequence.h"
+#include "rules/PictureSpec.h"
 
 #include <QSignalBlocker>
 
@@ -18,8 +21,9 @@ frmAnim::frmAnim(Document &doc, frmSprite &spriteEditor)
     , m_anim(m_sprite.anims.at(static_cast<size_t>(doc.currentAnimIndex)))
 {
     m_ui.setupUi(this);
-    m_rowView = new ObjectListView(m_ui.lstAnimSequence, m_rows, []() {});
+    m_rowView = new ObjectListView(m_ui.lstAnimSequence, m_rows, [this]() { showPreview(); });
     declareBindings();
+    connectPreview();
     connect(m_ui.txtAnimSequenceAdd,
             &QLineEdit::textChanged,
             this,
@@ -93,6 +97,34 @@ void frmAnim::declareBindings()
         });
 }
 
+void frmAnim::connectPreview()
+{
+    // Connected after the bindings, so the record already holds what was typed or clicked.
+    loadStep([this]() { showPreview(); });
+    connect(m_ui.txtAnimDelaysAnim, &QLineEdit::textChanged, this, &frmAnim::showPreview);
+    connect(m_ui.txtAnimDelaysFrame, &QLineEdit::textChanged, this, &frmAnim::showPreview);
+    connect(m_ui.chkAnimRepeat, &QCheckBox::toggled, this, &frmAnim::showPreview);
+    connect(m_ui.optAnimDirectionForward, &QRadioButton::toggled, this, &frmAnim::showPreview);
+    connect(m_ui.optAnimDirectionReverse, &QRadioButton::toggled, this, &frmAnim::showPreview);
+}
+
+void frmAnim::showPreview()
+{
+    AnimationPlayer *player = m_ui.picAnimPlayer;
+    const std::optional<int> image = findListedObject(document(), Kind::Image, m_sprite.imageId);
+    player->setPicture(image ? pictureOf(document(), document().Images[static_cast<size_t>(*image)])
+                             : PictureSpec{});
+    const std::vector<int16_t> cells = animationCells(m_anim);
+    player->setSequence(cells, timingOf(m_anim, static_cast<int>(cells.size())));
+    int still = 0;
+    if (m_rows.selected >= 0 && static_cast<size_t>(m_rows.selected) < m_rows.lines.size()) {
+        const int16_t slot = m_rows.lines[static_cast<size_t>(m_rows.selected)].slot;
+        if (slot >= 0 && slot < SubSlotCount)
+            still = m_anim.frames[static_cast<size_t>(slot)].cell;
+    }
+    player->setStillCell(still);
+}
+
 void frmAnim::txtAnimSequenceAdd_Change()
 {
     m_ui.cmdAnimSequenceAdd->setEnabled(!m_ui.txtAnimSequenceAdd->text().isEmpty());
@@ -114,6 +146,7 @@ void frmAnim::cmdAnimSequenceAdd_Click()
     }
     m_ui.txtAnimSequenceAdd->clear();
     m_ui.txtAnimSequenceAdd->setFocus();
+    showPreview();
 }
 
 void frmAnim::cmdAnimSequenceDelete_Click()
@@ -129,18 +162,21 @@ void frmAnim::cmdAnimSequenceDelete_Click()
                        false);
         m_ui.txtAnimSequenceAdd->setFocus();
     }
+    showPreview();
 }
 
 void frmAnim::cmdAnimSequenceUp_Click()
 {
     if (moveFrameUp(m_anim, m_rows))
         m_rowView->show();
+    showPreview();
 }
 
 void frmAnim::cmdAnimSequenceDown_Click()
 {
     if (moveFrameDown(m_anim, m_rows))
         m_rowView->show();
+    showPreview();
 }
 
 void frmAnim::handBack()

@@ -39,6 +39,10 @@ protected:
 
 private:
     void declareBindings();
+    // The preview beside the sequence: the sprite's image, the frames and their timing, and
+    // the cell of the selected row while stopped. It only reads the records.
+    void connectPreview();
+    void showPreview();
 
     Ui::frmAnim m_ui;
     frmSprite &m_spriteEditor;

@@ -1,6 +1,8 @@
 #include "frmImage.h"
 
+#include "ImageSheetView.h"
 #include "frmMain.h"
+#include "rules/PictureSpec.h"
 #include "rules/FieldRules.h"
 #include "rules/ImageFieldRules.h"
 
@@ -27,6 +29,24 @@ frmImage::frmImage(Document &doc, frmMain *mainWindow, QWidget *parent)
     bindNumber(m_ui.txtImageAlpha, i.alpha, byteField());
     bindCheck(m_ui.chkImageBound, i.bound);
     bindCheck(m_ui.chkImageVisible, i.visible);
+    loadStep([this]() { showPreview(); });
+    // Connected after the bindings, so the record already holds what was typed.
+    for (QLineEdit *box : {m_ui.txtImagePath,
+                           m_ui.txtImageCellWidth,
+                           m_ui.txtImageCellHeight,
+                           m_ui.txtImageRed,
+                           m_ui.txtImageGreen,
+                           m_ui.txtImageBlue,
+                           m_ui.txtImageAlpha})
+        connect(box, &QLineEdit::textChanged, this, &frmImage::showPreview);
+    // Tab walks the record's boxes only, as before the preview; the zoom is chosen by mouse.
+    for (QWidget *child : m_ui.picImageSheet->findChildren<QWidget *>())
+        child->setFocusPolicy(Qt::ClickFocus);
+}
+
+void frmImage::showPreview()
+{
+    m_ui.picImageSheet->setPicture(pictureOf(document(), m_image));
 }
 
 void frmImage::newRecordDefaults()

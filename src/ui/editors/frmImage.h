@@ -26,6 +26,9 @@ protected:
     void newRecordDefaults() override;
 
 private:
+    // Draws the record's file, cells, colour key and alpha in the preview beside the boxes.
+    void showPreview();
+
     Ui::frmImage m_ui;
     ImageRec &m_image;
 };

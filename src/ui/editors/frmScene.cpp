@@ -1,11 +1,13 @@
 #include "frmScene.h"
 
+#include "ScenePreview.h"
 #include "frmMain.h"
 #include "rules/UserInterface.h"
 
 #include <QListWidget>
 
 #include <cstddef>
+#include <vector>
 
 namespace vorlane {
 
@@ -88,6 +90,11 @@ void frmScene::connectHandlers()
         lstSceneLayers_Click();
     });
 
+    connect(m_ui.picScenePreview,
+            &ScenePreview::layerClicked,
+            this,
+            &frmScene::picScenePreview_LayerClicked);
+
     connect(m_ui.cmdSceneLayerAdd, &QPushButton::clicked, this, &frmScene::cmdSceneLayerAdd_Click);
     connect(m_ui.cmdSceneLayerDelete,
             &QPushButton::clicked,
@@ -110,6 +117,28 @@ void frmScene::showLayers()
     }
     list->setCurrentRow(m_layers.selected);
     m_mirroring = false;
+    showPreview();
+}
+
+void frmScene::showPreview()
+{
+    std::vector<int> listed;
+    for (const ListLine &line : m_layers.lines)
+        listed.push_back(line.slot);
+    m_ui.picScenePreview->setScene(document(), m_scene, std::move(listed));
+}
+
+void frmScene::picScenePreview_LayerClicked(int layerSlot)
+{
+    for (size_t row = 0; row < m_layers.lines.size(); ++row) {
+        if (m_layers.lines[row].slot == layerSlot) {
+            m_ui.lstSceneLayers->setCurrentRow(static_cast<int>(row));
+            // Selecting the line already selected is a click on it all the same.
+            m_layers.selected = static_cast<int>(row);
+            lstSceneLayers_Click();
+            return;
+        }
+    }
 }
 
 void frmScene::applyButtons(const LayerButtons &buttons)

@@ -44,6 +44,10 @@ private:
     // Shows the layer list again, with its selection.
     void showLayers();
     void applyButtons(const LayerButtons &buttons);
+    // Lays the scene's listed layers out in the preview; it only reads the records.
+    void showPreview();
+    // Selects the line of the layer whose object was clicked in the preview.
+    void picScenePreview_LayerClicked(int layerSlot);
 
     Ui::frmScene m_ui;
     SceneRec &m_scene;

@@ -42,6 +42,12 @@ AnimationPlayer::AnimationPlayer(QWidget *parent, std::unique_ptr<AnimationClock
 
 AnimationPlayer::~AnimationPlayer() = default;
 
+void AnimationPlayer::setClock(std::unique_ptr<AnimationClock> clock)
+{
+    stop();
+    m_clock = clock ? std::move(clock) : std::make_unique<AnimationClock>();
+}
+
 void AnimationPlayer::setPicture(const PictureSpec &spec)
 {
     m_view->setPicture(spec);

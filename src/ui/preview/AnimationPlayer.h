@@ -31,6 +31,9 @@ public:
                              std::unique_ptr<AnimationClock> clock = nullptr);
     ~AnimationPlayer() override;
 
+    // Plays by `clock` from now on (a player made by a form is given a test's clock so).
+    void setClock(std::unique_ptr<AnimationClock> clock);
+
     void setPicture(const PictureSpec &spec);
     // The cells in the order they play (animationCells) and how they play (timingOf).
     void setSequence(std::vector<int16_t> cells, const AnimationTiming &timing);
