@@ -27,7 +27,7 @@ std::string cliHelpText()
            "  convert IN.dvb OUT.dvb\n"
            "               read the project file IN.dvb and save it as OUT.dvb, which then\n"
            "               records OUT.dvb as its path; OUT.dvb is left alone if IN.dvb is\n"
-           "               damaged\n"
+           "               damaged; the previous OUT.dvb is kept as OUT.dvb.bak1\n"
            "  generate PROJECT.dvb OUTDIR [--root FOLDER] [--verbose]\n"
            "               read the project file PROJECT.dvb and write the engine's files\n"
            "               (app.cfg, the nine .dat files, log.cfg) into OUTDIR, created when\n"
@@ -39,7 +39,9 @@ std::string cliHelpText()
            "  1  the work failed (a file could not be read or written, or problems were found)\n"
            "  2  usage error (unknown command, missing or extra arguments)\n"
            "\n"
-           "Errors are printed on standard error as \"vorlane-cli: FILE:LINE: message\".\n";
+           "Errors are printed on standard error as \"vorlane-cli: FILE:LINE: message\".\n"
+           "convert and generate also print what check would report, each line as\n"
+           "\"vorlane-cli: warning: LINE\", and still exit with 0 when their work succeeds.\n";
 }
 
 int runCli(const std::vector<std::string> &args, std::ostream &out, std::ostream &err)

@@ -2,6 +2,7 @@
 
 #include "cli/Cli.h"
 #include "cli/Unattended.h"
+#include "project/ProjectCheck.h"
 #include "project/Save.h"
 #include "io/SystemFileOps.h"
 
@@ -19,18 +20,29 @@ int runConvert(const std::vector<std::string> &args, std::ostream & /*out*/, std
     const std::string &in = args[0];
     const std::string &outPath = args[1];
 
+    // OUT is recorded inside the file; a name the file cannot carry would make it unreadable.
+    if (!projectFileCarries(outPath)) {
+        err << "vorlane-cli: " << outPath
+            << ": a project file cannot record this name as its path (it holds a line break or "
+               "a double quote followed by a comma); nothing was written\n";
+        return ExitFailure;
+    }
+
     Unattended ui;
     ProgressSink quiet;
     const auto doc = openForCommand(in, ui, quiet, err);
     if (!doc)
         return ExitFailure;
 
-    doc->ProjectInfo.projectFilePath = outPath; // as Save As records the chosen file
+    recordChosenPath(*doc, outPath); // as Save As records the chosen file
     const SaveResult saved = saveProject(*doc, ui, quiet, systemFileOps());
     if (!saved.written()) {
         err << "vorlane-cli: " << outPath << ": " << saved.reason << "\n";
         return ExitFailure;
     }
+    for (const std::string &notice : saved.notices)
+        err << "vorlane-cli: warning: " << notice << "\n";
+    printWarnings(*doc, outPath, err);
     return ExitSuccess;
 }
 

@@ -85,6 +85,28 @@ std::optional<GenerateArgs> parse(const std::vector<std::string> &args, std::str
     return parsed;
 }
 
+// A failed generation as "PATH: what happened".
+std::string failureLine(const GenerateFailure &failure)
+{
+    switch (failure.kind) {
+    case GenerateFailure::Kind::Busy:
+        return failure.path +
+               ": another generation is writing into this folder; nothing was generated";
+    case GenerateFailure::Kind::OwnInput:
+        return failure.path + ": this engine file is the project file " + failure.reason +
+               "; nothing was generated";
+    case GenerateFailure::Kind::Write:
+        break;
+    }
+    std::string line = failure.path + ": " + failure.reason + "; this file was left as it was";
+    if (failure.replaced.empty())
+        return line + ", and no file was replaced";
+    line += "; already replaced:";
+    for (const std::string &name : failure.replaced)
+        line += " " + name;
+    return line;
+}
+
 } // namespace
 
 int runGenerate(const std::vector<std::string> &args, std::ostream & /*out*/, std::ostream &err)
@@ -105,6 +127,8 @@ int runGenerate(const std::vector<std::string> &args, std::ostream & /*out*/, st
     const auto doc = openForCommand(parsed->project, ui, progress, err);
     if (!doc)
         return ExitFailure;
+    // What `check` finds in the project file as it is.
+    printWarnings(*doc, parsed->project, err);
     if (parsed->root)
         doc->AppSettings.rootFolder = *parsed->root;
 
@@ -129,7 +153,7 @@ int runGenerate(const std::vector<std::string> &args, std::ostream & /*out*/, st
     if (result.outcome == GenerateOutcome::Generated)
         return ExitSuccess;
     if (result.failure)
-        err << "vorlane-cli: " << result.failure->path << ": " << result.failure->reason << "\n";
+        err << "vorlane-cli: " << failureLine(*result.failure) << "\n";
     else
         err << "vorlane-cli: " << parsed->project << ": nothing was generated\n";
     return ExitFailure;

@@ -1,6 +1,7 @@
 #include "cli/Unattended.h"
 
 #include "project/Open.h"
+#include "project/ProjectCheck.h"
 #include "io/SystemFileOps.h"
 
 #include <future>
@@ -71,6 +72,12 @@ std::unique_ptr<Document> openForCommand(const std::string &path,
         return nullptr;
     }
     return doc;
+}
+
+void printWarnings(const Document &doc, const std::string &file, std::ostream &err)
+{
+    for (const std::string &problem : checkProject(doc, file))
+        err << "vorlane-cli: warning: " << problem << "\n";
 }
 
 } // namespace vorlane

@@ -33,4 +33,8 @@ std::unique_ptr<Document> openForCommand(const std::string &path,
                                          ProgressSink &progress,
                                          std::ostream &err);
 
+// Prints what `vorlane-cli check` would print for the project in `doc`, each line as
+// "vorlane-cli: warning: LINE" on `err`; `file` is the FILE part of the lines.
+void printWarnings(const Document &doc, const std::string &file, std::ostream &err);
+
 } // namespace vorlane

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "io/ChunkSink.h"
+#include "io/FileOps.h"
 
 #include <optional>
 #include <string>
@@ -24,8 +25,24 @@ public:
                                                     const ChunkProducer &produce);
 };
 
-// Writes files straight to the disk, in place (no temporary file); the chunks of a file are
-// written while the next ones are produced.
+// Writes each file through `ops` as a project file is saved: beside it, then renamed over it,
+// so that a failure leaves the previous file whole.
+class SafeFileOutput final : public FileOutput
+{
+public:
+    explicit SafeFileOutput(FileOps &ops)
+        : m_ops(ops)
+    {}
+    std::optional<std::string> writeFile(const std::string &path, std::string_view bytes) override;
+    std::optional<std::string> writeChunked(const std::string &path,
+                                            const ChunkProducer &produce) override;
+
+private:
+    FileOps &m_ops;
+};
+
+// Writes files to the disk, each replaced whole: written beside it and renamed over it, as a
+// project file is saved; the chunks of a file are written while the next ones are produced.
 FileOutput &diskFileOutput();
 
 } // namespace vorlane

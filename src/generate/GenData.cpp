@@ -1,8 +1,11 @@
 #include "generate/GenData.h"
 
 #include "generate/EngineFiles.h"
+#include "io/FolderLock.h"
 #include "model/Kinds.h"
 #include "rules/NewObjects.h"
+
+#include <vector>
 
 #include <string>
 
@@ -32,6 +35,27 @@ private:
 std::optional<GenerateFailure>
 GenData(Document &doc, std::string_view dataFolderRel, ProgressSink &progress, FileOutput &files)
 {
+    const std::string &folder = doc.ProjectInfo.generatePath;
+    // Two generations into one folder would each replace some of the files: the second is
+    // refused before it changes anything.
+    const FolderLock lock(folder);
+    if (lock.busy())
+        return GenerateFailure{folder, {}, {}, GenerateFailure::Kind::Busy};
+    // No engine file may be the project file being read or saved.
+    std::vector<std::string_view> names{AppCfgName};
+    for (Kind kind : FileOrder)
+        names.push_back(kindInfo(kind).dataFile);
+    names.push_back(LogCfgName);
+    for (const std::string &project : {doc.openedFrom, projectSavePath(doc)}) {
+        for (std::string_view name : names) {
+            std::string path = folder;
+            path.append(name);
+            if (isSameFile(path, project))
+                return GenerateFailure{
+                    std::move(path), project, {}, GenerateFailure::Kind::OwnInput};
+        }
+    }
+
     ProgressScope scope(progress);
     progress.setLabel("Removing New Objects...");
     removeNewObjects(doc);
@@ -42,13 +66,15 @@ GenData(Document &doc, std::string_view dataFolderRel, ProgressSink &progress, F
         maximum += static_cast<int>(list.lines.size());
     progress.setMaximum(maximum);
 
-    const std::string &folder = doc.ProjectInfo.generatePath;
+    std::vector<std::string> replaced;
     const auto write = [&](std::string_view name,
                            const ChunkProducer &produce) -> std::optional<GenerateFailure> {
         std::string path = folder;
         path.append(name);
         if (auto reason = files.writeChunked(path, produce))
-            return GenerateFailure{std::move(path), std::move(*reason)};
+            return GenerateFailure{
+                std::move(path), std::move(*reason), replaced, GenerateFailure::Kind::Write};
+        replaced.emplace_back(name);
         return std::nullopt;
     };
 

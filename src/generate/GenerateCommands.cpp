@@ -45,8 +45,24 @@ std::string outsideRootText(const std::string &folder, const std::string &rootFo
 
 std::string writeFailureText(const GenerateFailure &failure)
 {
-    return "Could not write " + failure.path + ": " + failure.reason +
-           ". Generation stopped at this file.";
+    switch (failure.kind) {
+    case GenerateFailure::Kind::Busy:
+        return "Another generation is writing into " + failure.path +
+               ". No data was generated; try again when it has finished.";
+    case GenerateFailure::Kind::OwnInput:
+        return "Generating would write " + failure.path + " over the project file " +
+               failure.reason + ". No data was generated.";
+    case GenerateFailure::Kind::Write:
+        break;
+    }
+    std::string text = "Could not write " + failure.path + ": " + failure.reason +
+                       ". Generation stopped at this file, which was left as it was.";
+    if (failure.replaced.empty())
+        return text + " No file was replaced.";
+    text += " Already replaced:";
+    for (size_t i = 0; i < failure.replaced.size(); ++i)
+        text += (i == 0 ? " " : ", ") + failure.replaced[i];
+    return text + ".";
 }
 
 GenerateResult generateDataAs(Document &doc,
@@ -64,6 +80,9 @@ GenerateResult generateDataAs(Document &doc,
     request.pattern = "*.dat";
     request.proposedName = GenerateProposedName;
     request.title = "Generate Data As";
+    // The dialog starts beside the project file, where the engine's data usually goes.
+    if (const std::string project = projectSavePath(doc); project.find('/') != std::string::npos)
+        request.folder = project.substr(0, project.rfind('/'));
     const std::optional<std::string> chosen = ui.chooseFile(request);
     if (!chosen)
         return {GenerateOutcome::Cancelled, std::nullopt, {}};

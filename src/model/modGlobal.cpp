@@ -108,4 +108,14 @@ void resetSplash(AppSettingsRec &app)
     app.splashImagePath = "null";
 }
 
+std::string projectSavePath(const Document &doc)
+{
+    const std::string &path = doc.ProjectInfo.projectFilePath;
+    const bool windowsPath = (path.size() >= 2 && path[1] == ':') || path.starts_with('\\');
+    const size_t slash = doc.openedFrom.rfind('/');
+    if (path.empty() || path.front() == '/' || windowsPath || slash == std::string::npos)
+        return path;
+    return doc.openedFrom.substr(0, slash + 1) + path;
+}
+
 } // namespace vorlane

@@ -338,12 +338,20 @@ struct Document
 
     std::array<ObjectList, KindCount> lists; // indexed by kindIndex()
 
+    // The project file last opened, in whose folder a relative projectFilePath is taken;
+    // not part of the file.
+    std::string openedFrom;
+
     ObjectList &list(Kind kind) { return lists[kindIndex(kind)]; }
     const ObjectList &list(Kind kind) const { return lists[kindIndex(kind)]; }
     int16_t &objectCount(Kind kind) { return ObjectCounts[kindIndex(kind)]; }
 };
 
 std::unique_ptr<Document> makeDocument();
+
+// The file Save writes: ProjectInfo.projectFilePath, taken against the folder of the file the
+// project was opened from when it is relative. A Windows path ("C:\\...") is kept as it stands.
+std::string projectSavePath(const Document &doc);
 
 // Frees every slot of every table (flags only), as before a project is loaded or created.
 void InitData(Document &doc);

@@ -66,6 +66,8 @@ OpenOutcome openProject(Document &doc,
         break;
     }
     outcome.firstProject = outcome.opened() && noProjectOpen;
+    // A relative path recorded in the file is taken against the file's own folder.
+    doc.openedFrom = outcome.opened() ? chosenPath : std::string();
     // What was read of a file that failed is no project of its own: forget the file's path,
     // so that no Save and no question on exit can overwrite it with the part that was read.
     if (!outcome.opened())

@@ -6,6 +6,9 @@
 
 #include <array>
 #include <optional>
+#include <tuple>
+#include <type_traits>
+#include <unordered_map>
 #include <unordered_set>
 
 namespace vorlane {
@@ -72,6 +75,22 @@ std::string quoted(std::string_view text)
     return out;
 }
 
+template<class T>
+struct IsTextField : std::false_type
+{
+};
+template<class Rec>
+struct IsTextField<layout::TextField<Rec>> : std::true_type
+{
+};
+
+std::string counted(int count, const char *what)
+{
+    return std::to_string(count) + " " + what + (count == 1 ? "" : "s");
+}
+
+constexpr const char *NotReadBack = "; the saved file will not read back intact";
+
 class Checker
 {
 public:
@@ -83,15 +102,20 @@ public:
             forEachListed(kind, [&](const auto &rec) { m_ids[index(kind)].insert(rec.id); });
     }
 
-    std::vector<std::string> run()
+    std::vector<ProjectProblem> run()
     {
+        m_subject = "project";
+        carried(m_doc.ProjectInfo, layout::ProjectNameLine);
+        carried(m_doc.ProjectInfo, layout::ProjectPathLine);
         checkApplication();
+        checkListSlots();
         for (Kind kind : FileOrder) {
             std::unordered_set<std::string_view> seen;
             forEachListed(kind, [&](const auto &rec) {
                 m_subject = std::string(nameOf(kind)) + " " + quoted(rec.id);
                 checkId(kind, rec.id, seen);
                 checkRecord(rec);
+                checkCarried(rec);
             });
         }
         checkCustomFilters();
@@ -117,12 +141,130 @@ private:
         });
     }
 
-    void report(const std::string &problem)
+    void report(const std::string &problem, bool breaksProjectFile = false)
     {
         std::string line;
         line.reserve(m_file.size() + m_subject.size() + problem.size() + 4);
         line.append(m_file).append(": ").append(m_subject).append(": ").append(problem);
-        m_problems.push_back(std::move(line));
+        m_problems.push_back({std::move(line), breaksProjectFile});
+    }
+
+    // The texts of one line of the project file that it cannot carry; `prefix` names the
+    // sub-record ("animation 2 ").
+    template<class Rec, class Line>
+    void carried(const Rec &rec, const Line &line, const std::string &prefix = {})
+    {
+        std::apply(
+            [&](const auto &...field) {
+                (
+                    [&](const auto &one) {
+                        if constexpr (IsTextField<std::decay_t<decltype(one)>>::value)
+                            checkCarried(prefix + one.name, rec.*one.member);
+                    }(field),
+                    ...);
+            },
+            line);
+    }
+
+    void checkCarried(const std::string &name, std::string_view value)
+    {
+        if (value.find_first_of("\r\n") != std::string_view::npos)
+            report(name + " holds a line break, which the project file cannot carry" + NotReadBack,
+                   true);
+        else if (!projectFileCarries(value))
+            report(name +
+                       " holds a double quote followed by a comma, which the project file cannot "
+                       "carry" +
+                       NotReadBack,
+                   true);
+    }
+
+    void checkCarried(const ButtonRec &button)
+    {
+        carried(button, layout::ButtonHead);
+        if (layout::isHotSpotId(button.id))
+            carried(button, layout::HotSpotTail);
+        else
+            carried(button, layout::ButtonTail);
+    }
+    void checkCarried(const ImageRec &image) { carried(image, layout::ImageLine); }
+    void checkCarried(const CursorRec &cursor) { carried(cursor, layout::CursorLine); }
+    void checkCarried(const TextRec &text) { carried(text, layout::TextLine); }
+    void checkCarried(const FontRec &font) { carried(font, layout::FontLine); }
+    void checkCarried(const MusicRec &music) { carried(music, layout::MusicLine); }
+
+    // A count written before its sub-records must be the number of slots in use, which the
+    // writer lists whatever the count says; a count of 0 writes none of them.
+    void checkCount(const std::string &name, int count, int used, const char *what)
+    {
+        if (count == used)
+            return;
+        if (count <= 0) {
+            if (used > 0)
+                report(name + " is " + std::to_string(count) + " but " + counted(used, what) +
+                           " in use, which the saved file leaves out",
+                       true);
+            return;
+        }
+        report(name + " is " + std::to_string(count) + " but " + counted(used, what) + " in use" +
+                   NotReadBack,
+               true);
+    }
+
+    template<class Slots>
+    static int usedIn(const Slots &slots)
+    {
+        int used = 0;
+        for (const auto &slot : slots)
+            used += slot.inUse == -1 ? 1 : 0;
+        return used;
+    }
+
+    void checkCarried(const SpriteRec &sprite)
+    {
+        carried(sprite, layout::SpriteLine);
+        checkCount("animCount", sprite.animCount, usedIn(sprite.anims), "animation");
+        if (sprite.animCount <= 0)
+            return;
+        int number = 0;
+        for (const AnimRec &anim : sprite.anims) {
+            if (anim.inUse != -1)
+                continue;
+            const std::string prefix = "animation " + std::to_string(++number) + " ";
+            carried(anim, layout::AnimLine, prefix);
+            checkCount(prefix + "frameCount", anim.frameCount, usedIn(anim.frames), "frame");
+        }
+    }
+
+    void checkCarried(const SceneRec &scene)
+    {
+        carried(scene, layout::SceneLine);
+        checkCount("layerCount", scene.layerCount, usedIn(scene.layers), "layer");
+        if (scene.layerCount <= 0)
+            return;
+        int number = 0;
+        for (const LayerRec &layer : scene.layers) {
+            if (layer.inUse == -1)
+                carried(layer, layout::LayerLine, "layer " + std::to_string(++number) + " ");
+        }
+    }
+
+    // Each line of a list stands for one object; two lines naming one slot save it twice.
+    void checkListSlots()
+    {
+        for (Kind kind : ListOrder) {
+            m_subject = std::string(nameOf(kind)) + " list";
+            std::unordered_map<int, size_t> firstLine;
+            const auto &lines = m_doc.list(kind).lines;
+            for (size_t i = 0; i < lines.size(); ++i) {
+                const auto [first, added] = firstLine.emplace(lines[i].slot, i);
+                if (!added)
+                    report("lines " + std::to_string(first->second + 1) + " and " +
+                               std::to_string(i + 1) + " both name slot " +
+                               std::to_string(lines[i].slot) + NotReadBack,
+                           true);
+            }
+        }
     }
 
     void checkId(Kind kind, const std::string &id, std::unordered_set<std::string_view> &seen)
@@ -241,6 +383,15 @@ private:
     {
         const AppSettingsRec &app = m_doc.AppSettings;
         m_subject = "application";
+        carried(app, layout::AppLine1);
+        if (app.splashEnabled == 1)
+            carried(app, layout::AppSplashLine);
+        carried(app, layout::AppLine3);
+        if (!app.rootFolder.empty() &&
+            (app.rootFolder.back() == '/' || app.rootFolder.back() == '\\'))
+            report("rootFolder " + quoted(app.rootFolder) +
+                   " ends in a separator, so the data folder in app.cfg loses its first "
+                   "character");
         checkStarred("windowCaption", app.windowCaption);
         checkStarred("windowIcon", app.windowIcon);
         // The splash line, and in it the bare splash image path, is written only when on.
@@ -255,6 +406,9 @@ private:
     void checkCustomFilters()
     {
         const AppSettingsRec &app = m_doc.AppSettings;
+        m_subject = "log";
+        checkCount(
+            "customFilterCount", app.customFilterCount, usedIn(app.CustomFilters), "custom filter");
         if (app.customFilterCount < 1)
             return;
         int number = 0;
@@ -263,6 +417,7 @@ private:
                 continue;
             m_subject = "custom filter " + std::to_string(++number);
             checkStarred("text", filter.text);
+            carried(filter, layout::CustomFilterLine);
         }
     }
 
@@ -270,14 +425,38 @@ private:
     std::string_view m_file;
     std::array<std::unordered_set<std::string_view>, KindCount> m_ids;
     std::string m_subject;
-    std::vector<std::string> m_problems;
+    std::vector<ProjectProblem> m_problems;
 };
 
 } // namespace
 
-std::vector<std::string> checkProject(const Document &doc, std::string_view file)
+bool projectFileCarries(std::string_view text)
+{
+    return text.find_first_of("\r\n") == std::string_view::npos &&
+           text.find("\",") == std::string_view::npos;
+}
+
+std::vector<ProjectProblem> findProjectProblems(const Document &doc, std::string_view file)
 {
     return Checker(doc, file).run();
+}
+
+std::vector<std::string> checkProject(const Document &doc, std::string_view file)
+{
+    std::vector<std::string> lines;
+    for (ProjectProblem &problem : findProjectProblems(doc, file))
+        lines.push_back(std::move(problem.line));
+    return lines;
+}
+
+std::vector<std::string> projectFileProblems(const Document &doc, std::string_view file)
+{
+    std::vector<std::string> lines;
+    for (ProjectProblem &problem : findProjectProblems(doc, file)) {
+        if (problem.breaksProjectFile)
+            lines.push_back(std::move(problem.line));
+    }
+    return lines;
 }
 
 } // namespace vorlane

@@ -16,4 +16,23 @@ namespace vorlane {
 // and generating) are left out. Empty when nothing is wrong.
 std::vector<std::string> checkProject(const Document &doc, std::string_view file);
 
+// A problem line of checkProject, and whether the project file itself is hit by it: saved as
+// it stands, the file will not read back as the project is (a text the file cannot carry, a
+// count that disagrees with the slots in use, two list lines naming one slot).
+struct ProjectProblem
+{
+    std::string line;
+    bool breaksProjectFile = false;
+};
+
+// checkProject's lines, each with what it hits.
+std::vector<ProjectProblem> findProjectProblems(const Document &doc, std::string_view file);
+
+// The lines of checkProject that hit the project file only: what a Save shows at once.
+std::vector<std::string> projectFileProblems(const Document &doc, std::string_view file);
+
+// Whether the project file carries `text` back intact: it holds no line break and no double
+// quote directly followed by a comma, as nothing in a text is escaped.
+bool projectFileCarries(std::string_view text);
+
 } // namespace vorlane

@@ -6,6 +6,7 @@
 #include "io/FileOps.h"
 
 #include <string>
+#include <vector>
 
 namespace vorlane {
 
@@ -19,17 +20,26 @@ struct SaveResult
     };
     Status status = Status::Written;
     std::string reason; // Failed: the operating system's message
+    // Written: what of the previous file could not be kept (its owner, its permissions, a
+    // backup), each a sentence naming the file.
+    std::vector<std::string> notices;
 
     bool written() const { return status == Status::Written; }
 };
+
+// `path` with ".dvb" added when its file name has no extension, as Save As saves it.
+std::string withProjectExtension(const std::string &path);
+
+// Records `path`, chosen by the user, as the project's file (Save As).
+void recordChosenPath(Document &doc, const std::string &path);
 
 // Save with `ops` for the file calls; see Save.
 SaveResult saveProject(Document &doc, UserInterface &ui, ProgressSink &progress, FileOps &ops);
 
 // The program's Save: asks whether new objects may go, removes them from the lists and writes
 // the project safely to ProjectInfo.projectFilePath, reporting its steps to `progress`. A
-// failed write is shown in a "Save Data" message naming the file and the reason. Returns
-// true when the file was written.
+// failed write is shown in a "Save Data" message naming the file and the reason. The previous
+// file is kept as the newest of ProjectBackups backups. Returns true when the file was written.
 bool Save(Document &doc, UserInterface &ui, ProgressSink &progress);
 
 } // namespace vorlane

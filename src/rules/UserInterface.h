@@ -26,7 +26,8 @@ struct FileDialogRequest
     std::string filterName;
     std::string pattern;
     std::string proposedName;
-    std::string title; // the dialog's caption
+    std::string title;  // the dialog's caption
+    std::string folder; // where the dialog starts; empty for the dialog's own choice
 };
 
 // Questions and choices put to the user. The editor answers them with message boxes and

@@ -1,7 +1,9 @@
 #include "project/ProjectCheck.h"
 
 #include "model/Kinds.h"
+#include "project/ProjectReader.h"
 #include "project/ProjectTestSupport.h"
+#include "project/ProjectWriter.h"
 
 #include <gtest/gtest.h>
 
@@ -200,13 +202,19 @@ TEST_F(CheckProject, UnusedOrUnwrittenAnimationsDoNotCount)
 {
     SpriteRec &hero = doc->Sprites[0];
     hero.anims[1].inUse = 0;
-    const Lines missing{
-        "game.dvb: sprite \"sprHero\": currentAnimId \"walk\" names no animation of this sprite"};
-    EXPECT_EQ(check(), missing);
+    const std::string missing =
+        "game.dvb: sprite \"sprHero\": currentAnimId \"walk\" names no animation of this sprite";
+    EXPECT_EQ(check(),
+              (Lines{missing,
+                     "game.dvb: sprite \"sprHero\": animCount is 2 but 1 animation in use; the "
+                     "saved file will not read back intact"}));
     // With animCount 0 no animation is written, whatever the slots say.
     hero.anims[1].inUse = -1;
     hero.animCount = 0;
-    EXPECT_EQ(check(), missing);
+    EXPECT_EQ(check(),
+              (Lines{missing,
+                     "game.dvb: sprite \"sprHero\": animCount is 0 but 2 animations in use, "
+                     "which the saved file leaves out"}));
 }
 
 TEST_F(CheckProject, LayerObjectIsLookedUpByItsObjectKind)
@@ -218,6 +226,7 @@ TEST_F(CheckProject, LayerObjectIsLookedUpByItsObjectKind)
     for (size_t i = 0; i < layers.size(); ++i)
         title.layers[i] = {-1, layers[i].second, layers[i].first};
     title.layers[5].inUse = 0;
+    title.layerCount = 5;
     EXPECT_EQ(check(),
               (Lines{"game.dvb: scene \"scnTitle\": layer 1 objectId \"sprHero\" names no text",
                      "game.dvb: scene \"scnTitle\": layer 2 objectId \"imgHero\" names no sprite",
@@ -243,12 +252,15 @@ TEST_F(CheckProject, LayersAreNumberedAmongTheUsedSlotsAndUnwrittenOnesAreSkippe
 {
     SceneRec &title = doc->Scenes[0];
     title.layers[0].inUse = 0;
+    title.layerCount = 5;
     title.layers[3].objectId = "cmdGone";
     EXPECT_EQ(check(),
               Lines{"game.dvb: scene \"scnTitle\": layer 3 objectId \"cmdGone\" names no button"});
-    // With layerCount 0 the scene is written without layers.
+    // With layerCount 0 the scene is written without layers: only that is said.
     title.layerCount = 0;
-    EXPECT_EQ(check(), Lines{});
+    EXPECT_EQ(check(),
+              Lines{"game.dvb: scene \"scnTitle\": layerCount is 0 but 5 layers in use, which "
+                    "the saved file leaves out"});
 }
 
 TEST_F(CheckProject, OnlyListedObjectsCanBeReferredTo)
@@ -321,6 +333,11 @@ TEST_F(CheckProject, SplashAndCustomFiltersCountOnlyWhenWritten)
     app.splashImagePath = "gfx\\my splash*.bmp";
     app.customFilterCount = 0;
     app.CustomFilters[1].text = "Player*";
+    // The filter's "*" is not looked at; that it is left out of the file is said.
+    EXPECT_EQ(check(),
+              Lines{"game.dvb: log: customFilterCount is 0 but 1 custom filter in use, which the "
+                    "saved file leaves out"});
+    app.CustomFilters[1].inUse = 0;
     EXPECT_EQ(check(), Lines{});
 }
 
@@ -436,6 +453,164 @@ TEST_F(CheckProject, ReportsInFileOrderUnderTheGivenFileName)
                      "which the engine reads as a separator",
                      "/home/me/My Game.dvb: scene \"scnTitle\": layer 1 objectId \"txtGone\" "
                      "names no text"}));
+}
+
+// What the project file cannot carry back: the lines a Save shows at once.
+const std::string QuoteComma = ", which the project file cannot carry; the saved file will not "
+                               "read back intact";
+
+TEST_F(CheckProject, ReportsATextHoldingAQuoteFollowedByAComma)
+{
+    doc->Texts[0].content = "Say \"hi\", then go";
+    EXPECT_EQ(check(),
+              Lines{"game.dvb: text \"txtStart\": content holds a double quote followed by a "
+                    "comma" +
+                    QuoteComma});
+}
+
+TEST_F(CheckProject, ReportsAnIdTypedWithAQuoteAndAComma)
+{
+    doc->Images[1].id = "x\",y";
+    doc->list(Kind::Image).lines[1].text = "x\",y";
+    doc->Buttons[0].templateId = "x\",y";
+    EXPECT_EQ(check(),
+              (Lines{"game.dvb: button \"cmdStart\": templateId holds a double quote followed by "
+                     "a comma" +
+                         QuoteComma,
+                     "game.dvb: image \"x\",y\": id holds a double quote followed by a comma" +
+                         QuoteComma}));
+}
+
+TEST_F(CheckProject, ReportsLineBreaksInTexts)
+{
+    doc->Texts[0].content = "two\r\nlines";
+    doc->AppSettings.windowCaption = "caption\n";
+    EXPECT_EQ(check(),
+              (Lines{"game.dvb: application: windowCaption holds a line break, which the project "
+                     "file cannot carry; the saved file will not read back intact",
+                     "game.dvb: text \"txtStart\": content holds a line break, which the project "
+                     "file cannot carry; the saved file will not read back intact"}));
+}
+
+TEST_F(CheckProject, ReportsAProjectFilePathTheFileCannotRecord)
+{
+    doc->ProjectInfo.projectFilePath = "/games/x\",y.dvb";
+    EXPECT_EQ(check(),
+              Lines{"game.dvb: project: projectFilePath holds a double quote followed by a comma" +
+                    QuoteComma});
+}
+
+TEST_F(CheckProject, AQuoteNotFollowedByACommaIsCarried)
+{
+    doc->Texts[0].content = "Say \"hi\"";
+    doc->AppSettings.windowCaption = "\"quoted\"";
+    EXPECT_EQ(check(), Lines{});
+}
+
+TEST_F(CheckProject, ReportsTheNeverEditedNewAnimationCountedByAnimCount)
+{
+    // Closing the sprite editor with a new animation never opened: animCount counts a slot
+    // that is reserved, not in use.
+    SpriteRec &hero = doc->Sprites[0];
+    hero.animCount = 3;
+    hero.anims[2].isNew = -1;
+    hero.anims[2].inUse = 0;
+    EXPECT_EQ(check(),
+              Lines{"game.dvb: sprite \"sprHero\": animCount is 3 but 2 animations in use; the "
+                    "saved file will not read back intact"});
+    EXPECT_EQ(projectFileProblems(*doc, "game.dvb"), check());
+}
+
+TEST_F(CheckProject, ReportsUsedAnimationsThatACountOfZeroLeavesOut)
+{
+    doc->Sprites[0].animCount = 0;
+    doc->Sprites[0].currentAnimId = "null";
+    EXPECT_EQ(check(),
+              Lines{"game.dvb: sprite \"sprHero\": animCount is 0 but 2 animations in use, which "
+                    "the saved file leaves out"});
+}
+
+TEST_F(CheckProject, ReportsFrameLayerAndCustomFilterCounts)
+{
+    AnimRec &walk = doc->Sprites[0].anims[1];
+    walk.frameCount = 2;
+    walk.frames[0].inUse = -1;
+    doc->Scenes[0].layerCount = 7;
+    doc->AppSettings.customFilterCount = 2;
+    EXPECT_EQ(check(),
+              (Lines{"game.dvb: sprite \"sprHero\": animation 2 frameCount is 2 but 1 frame in "
+                     "use; the saved file will not read back intact",
+                     "game.dvb: scene \"scnTitle\": layerCount is 7 but 6 layers in use; the saved "
+                     "file will not read back intact",
+                     "game.dvb: log: customFilterCount is 2 but 1 custom filter in use; the saved "
+                     "file will not read back intact"}));
+}
+
+TEST_F(CheckProject, ReportsARootFolderEndingInASeparator)
+{
+    for (const std::string root : {"C:\\Games\\Quest\\", "/games/quest/"}) {
+        doc->AppSettings.rootFolder = root;
+        EXPECT_EQ(check(),
+                  Lines{"game.dvb: application: rootFolder \"" + root +
+                        "\" ends in a separator, so the data folder in app.cfg loses its first "
+                        "character"});
+        // The project file carries it: nothing for a Save to show.
+        EXPECT_EQ(projectFileProblems(*doc, "game.dvb"), Lines{});
+    }
+    doc->AppSettings.rootFolder = "C:\\Games\\Quest";
+    EXPECT_EQ(check(), Lines{});
+}
+
+TEST_F(CheckProject, ReportsTwoListLinesNamingOneSlot)
+{
+    doc->list(Kind::Font).lines.push_back({"fntMain", 0});
+    EXPECT_EQ(check(),
+              (Lines{"game.dvb: font list: lines 1 and 2 both name slot 0; the saved file will "
+                     "not read back intact",
+                     "game.dvb: font \"fntMain\": id is also used by an earlier font"}));
+    EXPECT_EQ(projectFileProblems(*doc, "game.dvb"),
+              Lines{"game.dvb: font list: lines 1 and 2 both name slot 0; the saved file will "
+                    "not read back intact"});
+}
+
+TEST_F(CheckProject, ASaveShowsOnlyWhatHitsTheProjectFile)
+{
+    doc->Buttons[0].cursorId = "curGone";
+    doc->Texts[0].content = "a\",b";
+    EXPECT_EQ(check().size(), 2u);
+    EXPECT_EQ(projectFileProblems(*doc, "game.dvb"),
+              Lines{"game.dvb: text \"txtStart\": content holds a double quote followed by a "
+                    "comma" +
+                    QuoteComma});
+}
+
+// What the check calls unreadable is: the written file reads back otherwise.
+TEST_F(CheckProject, WhatIsReportedDoesNotReadBack)
+{
+    doc->Texts[0].content = "x\",y";
+    const std::string bytes = projectFileBytes(*doc).str();
+    auto reread = makeDocument();
+    const ProjectReadResult read = readProject(bytes, *reread);
+    EXPECT_TRUE(read.status != ProjectReadResult::Status::Read ||
+                reread->Texts[0].content != "x\",y");
+
+    doc->Texts[0].content = "x\"y";
+    auto intact = makeDocument();
+    ASSERT_EQ(readProject(projectFileBytes(*doc).str(), *intact).status,
+              ProjectReadResult::Status::Read);
+    EXPECT_EQ(intact->Texts[0].content, "x\"y");
+}
+
+TEST(ProjectFileCarries, LineBreaksAndQuoteCommasOnly)
+{
+    EXPECT_TRUE(projectFileCarries(""));
+    EXPECT_TRUE(projectFileCarries("a \"b\" c"));
+    EXPECT_TRUE(projectFileCarries("ends in a quote\""));
+    EXPECT_TRUE(projectFileCarries("comma, then \"quote\""));
+    EXPECT_FALSE(projectFileCarries("x\",y"));
+    EXPECT_FALSE(projectFileCarries("x\","));
+    EXPECT_FALSE(projectFileCarries("a\rb"));
+    EXPECT_FALSE(projectFileCarries("a\nb"));
 }
 
 } // namespace

@@ -1,6 +1,7 @@
 #include "generate/FileOutput.h"
 
 #include "GenerateTestSupport.h"
+#include "io/FailingFileOps.h"
 
 #include <gtest/gtest.h>
 
@@ -43,16 +44,34 @@ TEST(DiskFileOutput, ChunksLandInTheFileInOrderReplacingWhatWasThere)
     EXPECT_EQ(testing::readBytes(path), expectedLetters(5, size));
 }
 
-TEST(DiskFileOutput, AFullDeviceIsReportedInTheSystemsWords)
+TEST(DiskFileOutput, AFullDeviceIsReportedAndLeavesThePreviousFileWhole)
 {
-    if (!std::filesystem::exists("/dev/full"))
-        GTEST_SKIP() << "no /dev/full here";
-    const auto chunked = diskFileOutput().writeChunked("/dev/full", letters(3, 1u << 20));
+    testing::TempFolder folder;
+    const std::string path = (folder.path() / "sprite.dat").string();
+    testing::writeBytes(path, "the previous sprite.dat");
+    testsupport::FailingFileOps full;
+    full.failWriteAt = 1'500'000; // the device fills up in the second chunk
+    SafeFileOutput output(full);
+    const auto chunked = output.writeChunked(path, letters(3, 1u << 20));
     ASSERT_TRUE(chunked.has_value());
     EXPECT_EQ(*chunked, "No space left on device");
-    const auto whole = diskFileOutput().writeFile("/dev/full", std::string(100, 'x'));
+    EXPECT_EQ(testing::readBytes(path), "the previous sprite.dat");
+    testsupport::FailingFileOps fullAtOnce;
+    fullAtOnce.failWriteAt = 0;
+    const auto whole = SafeFileOutput(fullAtOnce).writeFile(path, std::string(100, 'x'));
     ASSERT_TRUE(whole.has_value());
     EXPECT_EQ(*whole, "No space left on device");
+    EXPECT_EQ(testing::readBytes(path), "the previous sprite.dat");
+    EXPECT_EQ(std::distance(std::filesystem::directory_iterator(folder.path()),
+                            std::filesystem::directory_iterator()),
+              1);
+}
+
+TEST(DiskFileOutput, ADeviceIsNeverWrittenAsAnEngineFile)
+{
+    const auto failure = diskFileOutput().writeFile("/dev/null", "x");
+    ASSERT_TRUE(failure.has_value());
+    EXPECT_EQ(*failure, "it is a device, not a regular file");
 }
 
 TEST(DiskFileOutput, AFileThatCannotBeOpenedIsReportedInTheSystemsWords)
@@ -61,7 +80,7 @@ TEST(DiskFileOutput, AFileThatCannotBeOpenedIsReportedInTheSystemsWords)
     const auto failure =
         diskFileOutput().writeChunked(folder.path().string(), letters(20, 1u << 20));
     ASSERT_TRUE(failure.has_value());
-    EXPECT_EQ(*failure, "Is a directory");
+    EXPECT_EQ(*failure, "it is a folder, not a regular file");
     const auto missing = diskFileOutput().writeChunked(
         (folder.path() / "missing" / "text.dat").string(), letters(1, 10));
     ASSERT_TRUE(missing.has_value());
@@ -90,8 +109,7 @@ TEST(DiskFileOutput, AProducerThatThrowsPassesTheExceptionOnAndWritesNothingMore
                  std::out_of_range);
     EXPECT_EQ(testing::readBytes(path), "the previous scene.dat");
 
-    // Failing later leaves the file as it was, or holding the start of what was put, in
-    // place as engine files are written.
+    // Failing later leaves the file as it was too: the chunks went to a temporary file.
     const std::size_t size = 3u << 20;
     EXPECT_THROW(diskFileOutput().writeChunked(path,
                                                [&](ChunkSink &sink) {
@@ -99,9 +117,10 @@ TEST(DiskFileOutput, AProducerThatThrowsPassesTheExceptionOnAndWritesNothingMore
                                                    throw std::out_of_range("no such slot");
                                                }),
                  std::out_of_range);
-    const std::string bytes = testing::readBytes(path);
-    EXPECT_TRUE(bytes == "the previous scene.dat" ||
-                expectedLetters(3, size).compare(0, bytes.size(), bytes) == 0);
+    EXPECT_EQ(testing::readBytes(path), "the previous scene.dat");
+    EXPECT_EQ(std::distance(std::filesystem::directory_iterator(folder.path()),
+                            std::filesystem::directory_iterator()),
+              1);
 }
 
 // An output that only knows whole files gets the chunks joined.

@@ -138,6 +138,7 @@ TEST_F(GenDataTest, FailingFileStopsGenerationThere)
     EXPECT_EQ(failure->reason, "No space left on device");
     EXPECT_EQ(files.order,
               (std::vector<std::string>{"out/app.cfg", "out/button.dat", "out/image.dat"}));
+    EXPECT_EQ(failure->replaced, (std::vector<std::string>{"app.cfg", "button.dat", "image.dat"}));
     EXPECT_EQ(progress.events.back(), "end");
     EXPECT_EQ(progress.events[progress.events.size() - 2], "label Generating Cursor Data...");
 }
@@ -160,7 +161,7 @@ TEST_F(GenDataTest, FailingLastFileKeepsTheOthers)
     EXPECT_EQ(files.order.size(), 10u);
 }
 
-TEST_F(GenDataTest, DiskFilesAreTruncatedAndWrittenInPlace)
+TEST_F(GenDataTest, DiskFilesAreReplacedWhole)
 {
     TempFolder folder;
     doc->ProjectInfo.generatePath = folder.withSeparator();
@@ -187,7 +188,9 @@ TEST_F(GenDataTest, DiskFailureNamesTheFileAndTheReasonAndKeepsEarlierFiles)
     const auto failure = GenData(*doc, "null", progress, diskFileOutput());
     ASSERT_TRUE(failure.has_value());
     EXPECT_EQ(failure->path, folder.withSeparator() + "text.dat");
-    EXPECT_EQ(failure->reason, "Is a directory");
+    EXPECT_EQ(failure->reason, "it is a folder, not a regular file");
+    EXPECT_EQ(failure->replaced,
+              (std::vector<std::string>{"app.cfg", "button.dat", "image.dat", "cursor.dat"}));
     for (const auto *name : {"app.cfg", "button.dat", "image.dat", "cursor.dat"})
         EXPECT_TRUE(std::filesystem::is_regular_file(folder.path() / name)) << name;
     for (const auto *name : {"font.dat", "music.dat", "log.cfg"})

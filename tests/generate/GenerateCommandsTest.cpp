@@ -208,7 +208,9 @@ TEST_F(GenerateCommandsTest, WriteFailureIsReportedWithTheFileAndReason)
     EXPECT_EQ(ui.messages[1].title, "Generate Data");
     EXPECT_EQ(ui.messages[1].text,
               "Could not write C:\\game\\data\\sprite.dat: Permission denied. "
-              "Generation stopped at this file.");
+              "Generation stopped at this file, which was left as it was. Already replaced: "
+              "app.cfg, button.dat, image.dat, cursor.dat, text.dat, font.dat, music.dat, "
+              "sfx.dat.");
     EXPECT_EQ(ui.messages[1].icon, MessageIcon::Critical);
     EXPECT_EQ(ui.messages[1].buttons, MessageButtons::OK);
     EXPECT_EQ(files.order.size(), 8u);

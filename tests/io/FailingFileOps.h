@@ -18,6 +18,9 @@ public:
     int syncError = 0;
     int closeError = 0;
     int renameError = 0;
+    int ownerError = 0; // setOwner fails with it, whatever it is asked
+    int modeError = 0;
+    int linkError = 0;
     std::vector<std::string> created;
     size_t bytesWritten = 0;
     int writebacksStarted = 0;
@@ -59,6 +62,18 @@ public:
     {
         const int error = SystemFileOps::close(handle);
         return closeError != 0 ? closeError : error;
+    }
+    int setOwner(int handle, long uid, long gid) override
+    {
+        return ownerError != 0 ? ownerError : SystemFileOps::setOwner(handle, uid, gid);
+    }
+    int setMode(int handle, unsigned mode) override
+    {
+        return modeError != 0 ? modeError : SystemFileOps::setMode(handle, mode);
+    }
+    int link(const std::string &from, const std::string &to) override
+    {
+        return linkError != 0 ? linkError : SystemFileOps::link(from, to);
     }
     int rename(const std::string &from, const std::string &to) override
     {

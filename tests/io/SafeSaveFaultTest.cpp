@@ -103,7 +103,9 @@ TEST_F(SafeSaveFault, WriteFailingAtEveryByteKeepsThePreviousFile)
     ProgressSink quiet;
     EXPECT_TRUE(saveProject(*doc, ui, quiet, ops).written());
     EXPECT_EQ(readBytes(path), bytes);
-    EXPECT_EQ(folder.entries(), std::vector<std::string>{"game.dvb"});
+    // The previous file is now the newest backup, byte for byte.
+    EXPECT_EQ(folder.entries(), (std::vector<std::string>{"game.dvb", "game.dvb.bak1"}));
+    EXPECT_EQ(readBytes(path + ".bak1"), previous);
 }
 
 TEST_F(SafeSaveFault, WriteFailingAtEveryByteOfAFirstSaveLeavesNoFile)
@@ -179,7 +181,7 @@ TEST_F(SafeSaveFaultLarge, ASaveOfSeveralChunksWritesTheSameBytesAsOneBuffer)
     EXPECT_EQ(readBytes(path), bytes);
     EXPECT_EQ(ops.bytesWritten, bytes.size());
     EXPECT_GE(static_cast<size_t>(ops.writebacksStarted), bytes.size() / ChunkWriter::ChunkSize);
-    EXPECT_EQ(folder.entries(), std::vector<std::string>{"game.dvb"});
+    EXPECT_EQ(folder.entries(), (std::vector<std::string>{"game.dvb", "game.dvb.bak1"}));
 }
 
 // The whole of `fd`, read until its end.

@@ -131,7 +131,7 @@ TEST_F(SafeSave, AFolderInTheWayIsReportedAndLeftAlone)
     ASSERT_EQ(mkdir(path.c_str(), 0755), 0);
     const FileWriteResult r = writeFileSafely(path, payload(), ops);
     EXPECT_FALSE(r.ok);
-    EXPECT_EQ(r.reason, "Is a directory");
+    EXPECT_EQ(r.reason, "it is a folder, not a regular file");
     EXPECT_EQ(folder.entries(), (std::vector<std::string>{"project.dvb", "taken.dvb"}));
 }
 

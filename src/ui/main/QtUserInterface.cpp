@@ -47,14 +47,14 @@ std::optional<std::string> QtUserInterface::chooseFile(const FileDialogRequest &
     const QString filter = QString::fromStdString(request.filterName) + "(" +
                            QString::fromStdString(request.pattern) + ")";
     const QString title = QString::fromStdString(request.title);
+    QString start = QString::fromStdString(request.proposedName);
+    if (!request.folder.empty())
+        start = QString::fromStdString(request.folder) + "/" + start;
     QString path;
-    if (request.mode == FileDialogRequest::Mode::Save) {
-        path = QFileDialog::getSaveFileName(
-            m_parent, title, QString::fromStdString(request.proposedName), filter);
-    } else {
-        path = QFileDialog::getOpenFileName(
-            m_parent, title, QString::fromStdString(request.proposedName), filter);
-    }
+    if (request.mode == FileDialogRequest::Mode::Save)
+        path = QFileDialog::getSaveFileName(m_parent, title, start, filter);
+    else
+        path = QFileDialog::getOpenFileName(m_parent, title, start, filter);
     if (path.isEmpty())
         return std::nullopt;
     return path.toStdString();

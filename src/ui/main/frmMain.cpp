@@ -5,6 +5,9 @@
 #include "frmProgress.h"
 #include "ObjectListView.h"
 #include "QuickStatsView.h"
+#include "ProblemsPanel.h"
+#include "io/SystemFileOps.h"
+#include "project/ProjectCheck.h"
 #include "generate/GenerateCommands.h"
 #include "model/Kinds.h"
 #include "rules/ObjectManagement.h"
@@ -29,6 +32,7 @@
 #include <QFileInfo>
 #include <QListWidget>
 #include <QProcess>
+#include <QStatusBar>
 #include <QUrl>
 
 #include <filesystem>
@@ -70,6 +74,8 @@ frmMain::frmMain(Document &doc, UserInterface &userInterface, QWidget *parent)
     }
     // Until a project is open only the "no data" page shows.
     m_ui.fraAppStats->setVisible(false);
+    m_problemsPanel = new ProblemsPanel(this);
+    addDockWidget(Qt::BottomDockWidgetArea, m_problemsPanel);
     setUpTabs();
     connectHandlers();
     Form_Load();
@@ -110,6 +116,7 @@ void frmMain::connectHandlers()
     connect(m_ui.mnuSaveAs, &QAction::triggered, this, &frmMain::mnuSaveAs_Click);
     connect(m_ui.mnuGenData, &QAction::triggered, this, &frmMain::mnuGenData_Click);
     connect(m_ui.mnuGenDataAs, &QAction::triggered, this, &frmMain::mnuGenDataAs_Click);
+    connect(m_ui.mnuCheckProject, &QAction::triggered, this, &frmMain::mnuCheckProject_Click);
     connect(m_ui.mnuExit, &QAction::triggered, this, &frmMain::mnuExit_Click);
     connect(m_ui.mnuOnlineHelp, &QAction::triggered, this, &frmMain::mnuOnlineHelp_Click);
     connect(m_ui.mnuAbout, &QAction::triggered, this, &frmMain::mnuAbout_Click);
@@ -350,9 +357,12 @@ bool frmMain::saveProject()
 {
     if (m_doc.ProjectInfo.projectFilePath.empty())
         return saveProjectAs();
-    const bool written = Save(m_doc, m_userInterface, progress());
+    const SaveResult result =
+        vorlane::saveProject(m_doc, m_userInterface, progress(), systemFileOps());
     listsChanged();
-    return written;
+    if (result.written())
+        showSaveProblems(result.notices);
+    return result.written();
 }
 
 bool frmMain::saveProjectAs()
@@ -366,11 +376,55 @@ bool frmMain::saveProjectAs()
     const auto path = m_userInterface.chooseFile(request);
     if (!path)
         return false;
-    m_doc.ProjectInfo.projectFilePath = *path;
-    const bool written = Save(m_doc, m_userInterface, progress());
+    // A name typed without an extension gets ".dvb", so that Open's filter shows the file.
+    recordChosenPath(m_doc, withProjectExtension(*path));
+    const SaveResult result =
+        vorlane::saveProject(m_doc, m_userInterface, progress(), systemFileOps());
     listsChanged();
     m_ui.mnuSave->setEnabled(true);
-    return written;
+    if (result.written())
+        showSaveProblems(result.notices);
+    return result.written();
+}
+
+void frmMain::showSaveProblems(const std::vector<std::string> &notices)
+{
+    const std::string path = projectSavePath(m_doc);
+    std::vector<std::string> lines = notices;
+    for (std::string &problem : projectFileProblems(m_doc, path))
+        lines.push_back(std::move(problem));
+    if (lines.empty()) {
+        m_problemsPanel->clearProblems();
+        statusBar()->showMessage(QStringLiteral("Saved \"%1\"").arg(qs(path)));
+        return;
+    }
+    const QString summary =
+        QStringLiteral("Saved \"%1\" with %2 to look at: see File > Check Project for the full "
+                       "report")
+            .arg(qs(path),
+                 lines.size() == 1 ? QStringLiteral("1 problem")
+                                   : QStringLiteral("%1 problems").arg(lines.size()));
+    statusBar()->showMessage(summary);
+    m_problemsPanel->showProblems(summary, lines);
+}
+
+void frmMain::mnuCheckProject_Click()
+{
+    if (m_doc.ProjectInfo.projectOpen == 0) {
+        m_problemsPanel->showProblems(QStringLiteral("No project is open."), {});
+        return;
+    }
+    // The lines name the project file, or the project when it has none yet.
+    const std::string path = projectSavePath(m_doc);
+    const std::vector<std::string> problems =
+        checkProject(m_doc, path.empty() ? m_doc.ProjectInfo.projectName : path);
+    const QString summary =
+        problems.empty() ? QStringLiteral("Check Project: no problems found.")
+        : problems.size() == 1
+            ? QStringLiteral("Check Project: 1 problem found.")
+            : QStringLiteral("Check Project: %1 problems found.").arg(problems.size());
+    statusBar()->showMessage(summary);
+    m_problemsPanel->showProblems(summary, problems);
 }
 
 void frmMain::mnuGenDataAs_Click()

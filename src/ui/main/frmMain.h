@@ -17,6 +17,7 @@ namespace vorlane {
 class ObjectListView;
 class UserInterface;
 class frmProgress;
+class ProblemsPanel;
 class Registry;
 struct QuickStats;
 
@@ -47,6 +48,7 @@ public:
     void mnuSaveAs_Click();
     void mnuGenData_Click();
     void mnuGenDataAs_Click();
+    void mnuCheckProject_Click();
     void mnuExit_Click();
     void mnuOnlineHelp_Click();
     void mnuAbout_Click();
@@ -73,6 +75,7 @@ public:
     // How the window asks the user; editors that report something use it too.
     UserInterface &userInterface() { return m_userInterface; }
     frmProgress &progress();
+    ProblemsPanel &problemsPanel() { return *m_problemsPanel; }
     int currentTab() const { return m_currentTab; }
     QListWidget *objectList(int tab) const { return m_lists[static_cast<size_t>(tab)]; }
     QFrame *tabFrame(int tab) const { return m_tabs[static_cast<size_t>(tab)]; }
@@ -97,6 +100,9 @@ private:
     // Save and Save As; true when the project file was written.
     bool saveProject();
     bool saveProjectAs();
+    // After a Save: what the saved file would not carry back, and what of the previous file
+    // could not be kept, in the problems panel and the status line.
+    void showSaveProblems(const std::vector<std::string> &notices);
     // Shows every list again after Open, Save or Generate changed them.
     void listsChanged();
 
@@ -104,6 +110,7 @@ private:
     Document &m_doc;
     UserInterface &m_userInterface;
     frmProgress *m_progress = nullptr;
+    ProblemsPanel *m_problemsPanel = nullptr;
     int m_currentTab = 0;
     std::array<QListWidget *, TabCount + 1> m_lists{};
     std::array<ObjectListView *, TabCount + 1> m_listViews{};
