@@ -1,13 +1,14 @@
 // vorlane_editors_bench: opens the largest project the tables allow in the editor's main window
 // and measures, for each kind whose editor exists, the time from Edit Properties to the shown
 // editor and from Escape to the refreshed list line. Prints one line per kind:
-// "KIND open MS close MS", the medians of --runs rounds (default 9).
+// "KIND open MS close MS", the medians of --runs rounds (default 9), and the same for the
+// animation editor opened from the sprite editor on an animation of 101 frames.
 //
 // Usage: vorlane_editors_bench [--runs N] [--dir FOLDER]
 #include "LargestProject.h"
 
-#include "frmMain.h"
 #include "RegisterEditors.h"
+#include "frmMain.h"
 #include "io/SystemFileOps.h"
 #include "model/Kinds.h"
 #include "project/Save.h"
@@ -18,6 +19,7 @@
 #include <QElapsedTimer>
 #include <QKeyEvent>
 #include <QListWidget>
+#include <QPushButton>
 #include <QTimer>
 #include <QWindow>
 
@@ -100,6 +102,68 @@ std::optional<Timing> timeEditor(frmMain &window, int tab)
     return timing;
 }
 
+// Opens the sprite editor on the list's middle sprite, then times its Edit Animation on the
+// middle animation and Escape in the animation editor, then closes the sprite editor.
+std::optional<Timing> timeAnimationEditor(frmMain &window, int tab)
+{
+    QListWidget *list = window.objectList(tab);
+    list->setCurrentRow(list->count() / 2);
+    window.lstObjects_Click(tab);
+
+    QElapsedTimer clock;
+    Timing timing;
+    bool measured = false;
+    QWidget *spriteEditor = nullptr;
+    qint64 escapeAt = -1;
+    const auto pressEscape = [](QWidget *target) {
+        QKeyEvent press(QEvent::KeyPress, Qt::Key_Escape, Qt::NoModifier);
+        QKeyEvent release(QEvent::KeyRelease, Qt::Key_Escape, Qt::NoModifier);
+        QApplication::sendEvent(target, &press);
+        QApplication::sendEvent(target, &release);
+    };
+    std::function<void()> pollAnimation = [&]() {
+        QWidget *editor = QApplication::activeModalWidget();
+        if (editor && editor != spriteEditor && editor->windowHandle() &&
+            editor->windowHandle()->isExposed()) {
+            timing.open = static_cast<double>(clock.nsecsElapsed()) / 1e6;
+            escapeAt = clock.nsecsElapsed();
+            pressEscape(editor);
+            return;
+        }
+        if (clock.elapsed() < 10000)
+            QTimer::singleShot(0, pollAnimation);
+    };
+    std::function<void()> pollSprite = [&]() {
+        QWidget *editor = QApplication::activeModalWidget();
+        if (!(editor && editor->windowHandle() && editor->windowHandle()->isExposed())) {
+            if (clock.elapsed() < 10000)
+                QTimer::singleShot(0, pollSprite);
+            return;
+        }
+        spriteEditor = editor;
+        auto *rows = editor->findChild<QListWidget *>(QStringLiteral("lstAnimObjects"));
+        auto *edit = editor->findChild<QPushButton *>(QStringLiteral("cmdSpriteEditAnim"));
+        if (rows && edit && rows->count() > 0) {
+            rows->setCurrentRow(rows->count() / 2);
+            edit->setEnabled(true);
+            QTimer::singleShot(0, pollAnimation);
+            clock.restart();
+            edit->click();
+            if (escapeAt >= 0) {
+                timing.close = static_cast<double>(clock.nsecsElapsed() - escapeAt) / 1e6;
+                measured = true;
+            }
+        }
+        pressEscape(editor);
+    };
+    QTimer::singleShot(0, pollSprite);
+    clock.start();
+    window.cmdObjEdit_Click();
+    if (!measured)
+        return std::nullopt;
+    return timing;
+}
+
 } // namespace
 
 int main(int argc, char **argv)
@@ -154,6 +218,21 @@ int main(int argc, char **argv)
         }
         std::printf("%-7s open %.1f close %.1f\n", kindInfo(kind).name, median(opens),
                     median(closes));
+        if (kind != Kind::Sprite)
+            continue;
+        std::vector<double> animOpens;
+        std::vector<double> animCloses;
+        for (int run = 0; run < runs; ++run) {
+            const std::optional<Timing> timing = timeAnimationEditor(window, tab);
+            if (!timing)
+                break;
+            animOpens.push_back(timing->open);
+            animCloses.push_back(timing->close);
+        }
+        if (animOpens.empty())
+            std::printf("anim    not measured\n");
+        else
+            std::printf("anim    open %.1f close %.1f\n", median(animOpens), median(animCloses));
     }
     std::filesystem::remove(path);
     return 0;
