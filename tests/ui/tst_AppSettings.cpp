@@ -378,7 +378,7 @@ private slots:
     void aScreenTypeOfNeitherCodeChoosesNoOption()
     {
         app().screenType = 0;
-        windowProps([this](frmAppWindowProps *d) {
+        windowProps([](frmAppWindowProps *d) {
             QVERIFY(!d->form().optAppScreenTypeFull->isChecked());
             QVERIFY(!d->form().optAppScreentypeWindow->isChecked());
             QVERIFY(d->form().txtAppWindowPropsIcon->isEnabled());

@@ -142,7 +142,7 @@ private slots:
             pressEscape(d->form().chkLogFilter_3);
         }));
         QCOMPARE(app().logTypeFilterCount, 1);
-        typeFilters([this](frmLogType *d) {
+        typeFilters([](frmLogType *d) {
             QVERIFY(d->form().chkLogFilter_3->isChecked());
             for (int i : {0, 1, 2, 4, 5, 6})
                 QVERIFY(!d->filterBox(i)->isChecked());

@@ -307,7 +307,7 @@ private slots:
     void emptyFieldsStayEmptyWhenTheButtonIsOpenedAndClosed()
     {
         giveEmptyFields();
-        edit([this](frmButton *editor) {
+        edit([](frmButton *editor) {
             const auto &f = editor->form();
             // Showing an empty field in an empty box changes no text, so no rule runs.
             QCOMPARE(f.txtButtonID->text(), QString());
