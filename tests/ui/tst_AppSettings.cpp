@@ -474,12 +474,12 @@ private slots:
     // Escape closes through the same way as the close box: the statistics are refreshed.
     void escapeClosesFromAnyControl()
     {
-        QVERIFY(windowProps([this](frmAppWindowProps *d) {
+        QVERIFY(windowProps([](frmAppWindowProps *d) {
             typeInto(d->form().txtAppScreenFPS, QStringLiteral("30"));
             pressEscape(d->form().chkAppScreenEngineUse);
         }));
         QCOMPARE(statLabel("lblAppStatsFramerate"), QStringLiteral("Framerate: 30"));
-        QVERIFY(soundProps([this](frmAppSoundProps *d) {
+        QVERIFY(soundProps([](frmAppSoundProps *d) {
             typeInto(d->form().txtAppSoundChannels, QStringLiteral("12"));
             pressEscape(d->form().txtAppSoundChannels);
         }));

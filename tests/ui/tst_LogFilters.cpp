@@ -254,7 +254,7 @@ private slots:
 
     void aFilterMadeAfterADeleteTakesTheFreedSlot()
     {
-        customFilters([this](frmLogCustom *d) {
+        customFilters([](frmLogCustom *d) {
             const auto &f = d->form();
             for (const char *name : {"first", "second", "third"})
                 createFilter(d, QString::fromUtf8(name));
