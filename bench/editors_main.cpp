@@ -216,8 +216,8 @@ int main(int argc, char **argv)
             std::printf("%-7s no editor\n", kindInfo(kind).name);
             continue;
         }
-        std::printf("%-7s open %.1f close %.1f\n", kindInfo(kind).name, median(opens),
-                    median(closes));
+        std::printf(
+            "%-7s open %.1f close %.1f\n", kindInfo(kind).name, median(opens), median(closes));
         if (kind != Kind::Sprite)
             continue;
         std::vector<double> animOpens;
