@@ -41,6 +41,8 @@ struct ButtonRec
     std::string soundDown;
     std::string soundOver;
     std::string soundDisabled;
+
+    bool operator==(const ButtonRec &) const = default;
 };
 
 struct CursorRec
@@ -50,6 +52,8 @@ struct CursorRec
     std::string id;
     std::string imageId;
     int16_t orientation = 0;
+
+    bool operator==(const CursorRec &) const = default;
 };
 
 struct ImageRec
@@ -68,6 +72,8 @@ struct ImageRec
     int16_t positionY = 0;
     int16_t visible = 0;
     int16_t alpha = 0;
+
+    bool operator==(const ImageRec &) const = default;
 };
 
 struct TextRec
@@ -98,6 +104,8 @@ struct TextRec
     int16_t styleBold = 0;
     int16_t styleItalic = 0;
     int16_t styleUnderline = 0;
+
+    bool operator==(const TextRec &) const = default;
 };
 
 struct FontRec
@@ -106,6 +114,8 @@ struct FontRec
     int16_t isNew = 0;
     std::string id;
     std::string path;
+
+    bool operator==(const FontRec &) const = default;
 };
 
 // Music tracks and sound effects share one layout.
@@ -118,10 +128,13 @@ struct MusicRec
     int16_t defaultVolume = 0;
     int16_t defaultPriority = 0;
     int16_t defaultPan = 0;
+
+    bool operator==(const MusicRec &) const = default;
 };
 
 struct SFXRec : MusicRec
 {
+    bool operator==(const SFXRec &) const = default;
 };
 
 inline constexpr int SubSlotCount = 101; // animations, frames and layers: slots 0..100
@@ -130,6 +143,8 @@ struct FrameRec
 {
     int16_t inUse = 0;
     int16_t cell = 0;
+
+    bool operator==(const FrameRec &) const = default;
 };
 
 struct AnimRec
@@ -145,6 +160,8 @@ struct AnimRec
     int16_t play = 0;
     int16_t direction = 0;
     int16_t defaultFrame = 0;
+
+    bool operator==(const AnimRec &) const = default;
 };
 
 struct SpriteRec
@@ -160,6 +177,8 @@ struct SpriteRec
     int16_t visible = 0;
     std::array<AnimRec, SubSlotCount> anims{};
     int32_t reserved = 0;
+
+    bool operator==(const SpriteRec &) const = default;
 };
 
 struct LayerRec
@@ -167,6 +186,8 @@ struct LayerRec
     int16_t inUse = 0;
     int16_t objectKind = 0;
     std::string objectId;
+
+    bool operator==(const LayerRec &) const = default;
 };
 
 struct SceneRec
@@ -178,12 +199,16 @@ struct SceneRec
     int16_t useCursor = 0;
     int16_t useMusic = 0;
     std::array<LayerRec, SubSlotCount> layers{};
+
+    bool operator==(const SceneRec &) const = default;
 };
 
 struct CustomFilterRec
 {
     int16_t inUse = 0;
     std::string text;
+
+    bool operator==(const CustomFilterRec &) const = default;
 };
 
 inline constexpr int LogTypeCount = 7;
@@ -220,6 +245,8 @@ struct AppSettingsRec
     std::array<int16_t, LogTypeCount> logTypeFilters{};
     std::array<int16_t, LogModuleCount> logFileFilters{};
     std::array<CustomFilterRec, CustomFilterSlots> CustomFilters{};
+
+    bool operator==(const AppSettingsRec &) const = default;
 };
 
 struct ProjectInfoRec
@@ -228,6 +255,8 @@ struct ProjectInfoRec
     std::string projectFilePath;
     std::string generatePath;
     int16_t projectOpen = 0;
+
+    bool operator==(const ProjectInfoRec &) const = default;
 };
 
 // The nine kinds in the order of the main window's lists (tabs 2..10) and of the counts in
@@ -276,6 +305,8 @@ struct ListLine
 {
     std::string text;
     int16_t slot = 0;
+
+    bool operator==(const ListLine &) const = default;
 };
 
 // A main-window object list; `selected` is the selected line's position, -1 for none.
@@ -283,6 +314,8 @@ struct ObjectList
 {
     std::vector<ListLine> lines;
     int selected = -1;
+
+    bool operator==(const ObjectList &) const = default;
 };
 
 // Log tables used by the log filter dialogs and log.cfg.
@@ -345,6 +378,9 @@ struct Document
     ObjectList &list(Kind kind) { return lists[kindIndex(kind)]; }
     const ObjectList &list(Kind kind) const { return lists[kindIndex(kind)]; }
     int16_t &objectCount(Kind kind) { return ObjectCounts[kindIndex(kind)]; }
+
+    // Every table, flag, setting, counter and list line alike.
+    bool operator==(const Document &) const = default;
 };
 
 std::unique_ptr<Document> makeDocument();

@@ -3,6 +3,8 @@
 
 #include <gtest/gtest.h>
 
+#include <memory>
+
 namespace vorlane {
 namespace {
 
@@ -181,6 +183,30 @@ TEST(Kinds, TabsFollowTheListOrder)
     EXPECT_FALSE(isObjectTab(1));
     EXPECT_FALSE(isObjectTab(11));
     EXPECT_THROW(slotOf(*makeDocument(), Kind::Cursor, 26), std::out_of_range);
+}
+
+TEST(DocumentValue, ACopyEqualsItsOriginalUntilOneFieldDiffers)
+{
+    auto doc = makeDocument();
+    setUpNewProject(*doc, "Copy");
+    doc->Buttons[3].id = "btnPlay";
+    doc->list(Kind::Button).lines.push_back({"btnPlay", 3});
+    auto copy = std::make_unique<Document>(*doc);
+    EXPECT_TRUE(*copy == *doc);
+
+    copy->Sprites[200].anims[100].frames[100].cell = 7;
+    EXPECT_FALSE(*copy == *doc);
+    copy->Sprites[200].anims[100].frames[100].cell = 0;
+    EXPECT_TRUE(*copy == *doc);
+
+    copy->list(Kind::Button).lines[0].slot = 4;
+    EXPECT_FALSE(*copy == *doc);
+    copy->list(Kind::Button).lines[0].slot = 3;
+    copy->layerOverflow = 1;
+    EXPECT_FALSE(*copy == *doc);
+    copy->layerOverflow = 0;
+    copy->AppSettings.CustomFilters[50].inUse = -1;
+    EXPECT_FALSE(*copy == *doc);
 }
 
 } // namespace
