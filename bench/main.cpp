@@ -142,9 +142,9 @@ ChildRun measureChild(const std::string &peakMemory, std::vector<std::string> ar
     return run;
 }
 
-ByteBuffer readFile(const std::string &path)
+std::string readFile(const std::string &path)
 {
-    ByteBuffer bytes;
+    std::string bytes;
     if (const int error = systemFileOps().readAll(path, bytes); error != 0)
         fail(path + ": " + errorText(error));
     return bytes;
@@ -250,8 +250,8 @@ int benchCore(int runs,
 
     if (!saveProject(*doc, ui, quiet, systemFileOps()).written())
         fail(project + ": could not be saved");
-    const ByteBuffer bytes = readFile(project);
-    const auto lines = std::count(bytes.view().begin(), bytes.view().end(), '\n');
+    const std::string bytes = readFile(project);
+    const auto lines = std::count(bytes.begin(), bytes.end(), '\n');
     const std::vector<EngineFile> files = engineFiles(*doc, "generated/");
     const size_t engineBytes = totalSize(files);
     std::printf("Project: %.2f MB, %ld lines; engine files: %.2f MB; median of %d runs\n\n",
