@@ -117,7 +117,7 @@ int runGenerate(const std::vector<std::string> &args, std::ostream & /*out*/, st
         return usage(err, problem);
 
     // The file chosen in the folder dialog: any name in OUTDIR does, as in the editor. OUTDIR
-    // is a folder of this system, where "\\" is a character of a name like any other: the
+    // is a folder of this system, where "\" is a character of a name like any other: the
     // files go inside the folder it names, never beside it.
     std::string chosen = parsed->outDir;
     if (chosen.back() != '/')

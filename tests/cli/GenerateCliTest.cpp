@@ -2,6 +2,8 @@
 
 #include "CheckWarnings.h"
 #include "generate/GenerateTestSupport.h"
+#include "project/ProjectReader.h"
+#include "project/ProjectWriter.h"
 
 #include <gtest/gtest.h>
 
@@ -340,6 +342,29 @@ TEST(GenerateCli, FolderInsideTheRootGivesNoWarningOfItsOwn)
     EXPECT_EQ(r.code, 0) << r.err;
     EXPECT_EQ(r.err, questWarnings());
     EXPECT_EQ(readBytes(fs::path(outDir) / "app.cfg").substr(0, 23), "quest2/* Korrin Quest* ");
+}
+
+TEST(GenerateCli, ACharacterTheEngineCannotReadIsWarnedOfAndWrittenAsAQuestionMark)
+{
+    TempFolder tmp;
+    auto doc = makeDocument();
+    const std::string quest = readBytes(Project);
+    ASSERT_EQ(readProject(quest, *doc).status, ProjectReadResult::Status::Read);
+    doc->AppSettings.windowCaption = "Korrin Квест";
+    const fs::path project = tmp.path() / "квест.dvb";
+    writeBytes(project, projectFileBytes(*doc).str());
+    ASSERT_EQ(readBytes(project).substr(0, 3), "\xEF\xBB\xBF");
+
+    const fs::path outDir = tmp.path() / "quest" / "data";
+    const auto r =
+        generate({project.string(), outDir.string(), "--root", (tmp.path() / "quest").string()});
+    EXPECT_EQ(r.code, 0) << r.err;
+    EXPECT_NE(r.err.find("vorlane-cli: warning: " + project.string() +
+                         ": application: windowCaption has characters the engine cannot read: "
+                         "К, в, е, с, т\n"),
+              std::string::npos)
+        << r.err;
+    EXPECT_EQ(readBytes(outDir / "app.cfg").substr(0, 22), "data/* Korrin ?????* g");
 }
 
 } // namespace
