@@ -3,7 +3,11 @@
 #include "Version.h"
 #include "cli/Check.h"
 #include "cli/Convert.h"
+#include "cli/Diff.h"
+#include "cli/Export.h"
 #include "cli/Generate.h"
+#include "cli/Import.h"
+#include "cli/Merge.h"
 
 #include <ostream>
 
@@ -65,6 +69,14 @@ int runCli(const std::vector<std::string> &args, std::ostream &out, std::ostream
         return runConvert({args.begin() + 1, args.end()}, out, err);
     if (command == "generate")
         return runGenerate({args.begin() + 1, args.end()}, out, err);
+    if (command == "export")
+        return runExport({args.begin() + 1, args.end()}, out, err);
+    if (command == "import")
+        return runImport({args.begin() + 1, args.end()}, out, err);
+    if (command == "diff")
+        return runDiff({args.begin() + 1, args.end()}, out, err);
+    if (command == "merge")
+        return runMerge({args.begin() + 1, args.end()}, out, err);
     err << "vorlane-cli: unknown command \"" << command << "\"; see vorlane-cli --help\n";
     return ExitUsage;
 }

@@ -34,10 +34,13 @@ std::string joined(std::string_view a, std::string_view b, std::string_view c = 
 class FieldReader
 {
 public:
-    explicit FieldReader(std::string_view bytes)
+    FieldReader(std::string_view bytes, const ReadOptions &options)
         : m_pos(bytes.data())
         , m_end(bytes.data() + bytes.size())
+        , m_options(options)
     {}
+
+    const ReadOptions &options() const { return m_options; }
 
     void text(std::string &out, const char *name)
     {
@@ -203,6 +206,7 @@ private:
 
     const char *m_pos;
     const char *m_end;
+    ReadOptions m_options;
     int m_line = 1;
 };
 
@@ -230,7 +234,8 @@ void readRecord(FieldReader &in, ButtonRec &button)
     if (layout::isHotSpotId(button.id)) {
         // A hot spot's cursor is dropped on purpose: it comes back as "null".
         button.isHotSpot = 1;
-        button.cursorId = "null";
+        if (!in.options().keepHotSpotCursors)
+            button.cursorId = "null";
         button.frameDisabled = 0;
         button.frameUp = 1;
         for (std::string *reference : {&button.captionTextId,
@@ -385,9 +390,17 @@ void readDocument(FieldReader &in, Document &doc, ProgressSink &progress)
 
 ProjectReadResult readProject(std::string_view bytes, Document &doc, ProgressSink &progress)
 {
+    return readProject(bytes, doc, progress, ReadOptions{});
+}
+
+ProjectReadResult readProject(std::string_view bytes,
+                              Document &doc,
+                              ProgressSink &progress,
+                              const ReadOptions &options)
+{
     if (bytes.empty())
         return {ProjectReadResult::Status::Empty, 0, {}};
-    FieldReader in(bytes);
+    FieldReader in(bytes, options);
     try {
         readDocument(in, doc, progress);
     } catch (Damage &damage) {

@@ -8,6 +8,14 @@
 
 namespace vorlane {
 
+// How the reader treats what the program does not keep.
+struct ReadOptions
+{
+    // Keep the cursor of a hot spot's line in cursorId instead of "null", for the forms that
+    // must carry everything the file holds (the JSON export).
+    bool keepHotSpotCursors = false;
+};
+
 // What reading a project file came to.
 struct ProjectReadResult
 {
@@ -35,6 +43,12 @@ ProjectReadResult readProject(std::string_view bytes, Document &doc, ProgressSin
 
 // The same, without progress reports.
 ProjectReadResult readProject(std::string_view bytes, Document &doc);
+
+// The same, read as `options` say.
+ProjectReadResult readProject(std::string_view bytes,
+                              Document &doc,
+                              ProgressSink &progress,
+                              const ReadOptions &options);
 
 // "FILE:LINE: MESSAGE", the form in which damage is shown.
 std::string damageText(std::string_view file, int line, std::string_view message);
