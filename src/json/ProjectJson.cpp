@@ -148,6 +148,13 @@ Json settingsJson(const AppSettingsRec &app)
     return settings;
 }
 
+// "an image", "a button".
+std::string withArticle(std::string_view name)
+{
+    const bool vowel = std::string_view("aeiou").find(name.front()) != std::string_view::npos;
+    return (vowel ? "an " : "a ") + std::string(name);
+}
+
 // --- Import: every value checked, its JSON pointer kept for the message. ---
 
 // The JSON pointer token of `key`: "~" and "/" escaped.
@@ -373,7 +380,10 @@ private:
         } else {
             std::apply([&](const auto &...field) { (refuseSplash(obj, field.name), ...); },
                        layout::AppSplashLine);
+            // As the reader keeps it for the JSON form: the flag as the file holds it.
+            const int16_t splashEnabled = app.splashEnabled;
             resetSplash(app);
+            app.splashEnabled = splashEnabled;
         }
         getLine(obj, app, layout::AppLine3);
     }
@@ -391,6 +401,7 @@ private:
         const KindInfo &info = kindInfo(kind.kind);
         const size_t max = static_cast<size_t>(info.lastSlot + 1);
         const Json &items = array(json, kind.key, max, "a project", kind.plural);
+        const std::string what = withArticle(kind.name);
         Step step(*this, kind.key);
         ObjectList &list = m_doc.list(kind.kind);
         withTable(m_doc, kind.kind, [&](auto &table) {
@@ -398,7 +409,7 @@ private:
                 Step item(*this, i);
                 expectObject(items[i], kind.name);
                 auto &rec = table[i];
-                readRecord(items[i], rec, kind.name);
+                readRecord(items[i], rec, what.c_str());
                 rec.inUse = -1;
                 rec.isNew = 0;
                 list.lines.push_back({rec.id, static_cast<int16_t>(i)});
@@ -568,7 +579,7 @@ ProjectReadResult readProjectForJson(std::string_view bytes, Document &doc)
 {
     ProgressSink quiet;
     ReadOptions options;
-    options.keepHotSpotCursors = true;
+    options.keepFileValues = true;
     return readProject(bytes, doc, quiet, options);
 }
 

@@ -30,7 +30,8 @@ inline constexpr const char *ProjectJsonFormat = "vorlane-project-1";
 const std::array<JsonKind, KindCount> &jsonKinds();
 
 // What the project file holds, read from its bytes: the reader's document, except that a hot
-// spot keeps the cursor of its line (the reader drops it). Returns the reader's result.
+// spot keeps the cursor of its line and splashEnabled keeps its value (Open drops both).
+// Returns the reader's result.
 ProjectReadResult readProjectForJson(std::string_view bytes, Document &doc);
 
 // The JSON form of what the writer writes for `doc`: every object of each list in list order

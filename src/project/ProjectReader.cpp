@@ -234,7 +234,7 @@ void readRecord(FieldReader &in, ButtonRec &button)
     if (layout::isHotSpotId(button.id)) {
         // A hot spot's cursor is dropped on purpose: it comes back as "null".
         button.isHotSpot = 1;
-        if (!in.options().keepHotSpotCursors)
+        if (!in.options().keepFileValues)
             button.cursorId = "null";
         button.frameDisabled = 0;
         button.frameUp = 1;
@@ -343,7 +343,10 @@ void readApplication(FieldReader &in, AppSettingsRec &app)
     if (app.splashEnabled == 1) {
         readFields(in, app, layout::AppSplashLine);
     } else {
+        const int16_t splashEnabled = app.splashEnabled;
         resetSplash(app);
+        if (in.options().keepFileValues)
+            app.splashEnabled = splashEnabled;
     }
     readFields(in, app, layout::AppLine3);
 }

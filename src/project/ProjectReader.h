@@ -11,9 +11,10 @@ namespace vorlane {
 // How the reader treats what the program does not keep.
 struct ReadOptions
 {
-    // Keep the cursor of a hot spot's line in cursorId instead of "null", for the forms that
+    // Keep the two values of the file that Open drops: the cursor of a hot spot's line
+    // (instead of "null") and a splashEnabled other than 1 (instead of 0), for the forms that
     // must carry everything the file holds (the JSON export).
-    bool keepHotSpotCursors = false;
+    bool keepFileValues = false;
 };
 
 // What reading a project file came to.
