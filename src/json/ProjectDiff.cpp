@@ -126,7 +126,8 @@ struct Differ
                 add(subject, detail + "added");
                 continue;
             }
-            if (!stays[common++])
+            // In a swap the one item left in place is not listed as moved.
+            if (!stays[common++] && found->second != j)
                 add(subject,
                     detail + "moved from position " + std::to_string(found->second + 1) + " to " +
                         std::to_string(j + 1));

@@ -139,9 +139,13 @@ private:
 
         // Which items stay, and their merged values.
         std::map<ItemKey, Json> merged;
-        std::set<ItemKey> all(keysB.begin(), keysB.end());
-        all.insert(keysO.begin(), keysO.end());
-        all.insert(keysT.begin(), keysT.end());
+        // In list order, so that conflicts are listed as the objects stand.
+        std::vector<ItemKey> all;
+        std::set<ItemKey> listed;
+        for (const auto *keys : {&keysO, &keysT, &keysB})
+            for (const ItemKey &key : *keys)
+                if (listed.insert(key).second)
+                    all.push_back(key);
         for (const ItemKey &key : all) {
             const Json *b = at(base, inB, key);
             const Json *o = at(ours, inO, key);
