@@ -37,6 +37,23 @@ std::string cliHelpText()
            "               (app.cfg, the nine .dat files, log.cfg) into OUTDIR, created when\n"
            "               missing; --root replaces the project's application root folder,\n"
            "               --verbose prints the progress on standard error\n"
+           "  export PROJECT.dvb [OUT.json]\n"
+           "               read the project file PROJECT.dvb and write it as JSON into\n"
+           "               OUT.json, or on standard output without OUT.json: every object\n"
+           "               with the fields of its line by name, one value a line\n"
+           "  import IN.json OUT.dvb\n"
+           "               write the project file OUT.dvb that IN.json (as export writes\n"
+           "               it) describes; a value that makes no project file is refused as\n"
+           "               \"IN.json:LINE:COLUMN: /POINTER: message\" and OUT.dvb is left\n"
+           "               alone; the previous OUT.dvb is kept as OUT.dvb.bak1\n"
+           "  diff A.dvb B.dvb\n"
+           "               print what changed from A.dvb to B.dvb, object by object and\n"
+           "               field by field (KIND \"ID\": FIELD OLD -> NEW)\n"
+           "  merge BASE.dvb OURS.dvb THEIRS.dvb -o OUT.dvb\n"
+           "               merge the changes from BASE.dvb to OURS.dvb and to THEIRS.dvb\n"
+           "               into OUT.dvb, object by object and field by field; a field\n"
+           "               changed both ways is a conflict, printed with both values, that\n"
+           "               keeps ours; works as a git merge driver\n"
            "\n"
            "Exit codes:\n"
            "  0  success\n"
@@ -45,7 +62,9 @@ std::string cliHelpText()
            "\n"
            "Errors are printed on standard error as \"vorlane-cli: FILE:LINE: message\".\n"
            "convert and generate also print what check would report, each line as\n"
-           "\"vorlane-cli: warning: LINE\", and still exit with 0 when their work succeeds.\n";
+           "\"vorlane-cli: warning: LINE\", and still exit with 0 when their work succeeds.\n"
+           "diff exits with 1 when the projects differ and with 2 on trouble, as diff does;\n"
+           "merge exits with 1 when there were conflicts and with 2 on trouble.\n";
 }
 
 int runCli(const std::vector<std::string> &args, std::ostream &out, std::ostream &err)
