@@ -44,17 +44,21 @@ int runMerge(const std::vector<std::string> &args, std::ostream &out, std::ostre
                "vorlane-cli --help\n";
         return ExitUsage;
     }
-    const std::optional<Json> base = readBase(files[0], err);
+    std::optional<Json> base = readBase(files[0], err);
     if (!base)
         return ExitUsage;
-    const std::optional<Json> ours = readProjectAsJson(files[1], err);
+    std::optional<Json> ours = readProjectAsJson(files[1], err);
     if (!ours)
         return ExitUsage;
-    const std::optional<Json> theirs = readProjectAsJson(files[2], err);
+    std::optional<Json> theirs = readProjectAsJson(files[2], err);
     if (!theirs)
         return ExitUsage;
 
     const MergeResult result = mergeProjects(*base, *ours, *theirs);
+    // The three versions are no longer needed: their memory goes before the document's comes.
+    base.reset();
+    ours.reset();
+    theirs.reset();
     auto doc = makeDocument();
     try {
         projectFromJson(result.merged, *doc);

@@ -98,6 +98,7 @@ Json recordJson(const SpriteRec &sprite)
             Json a = lineJson(anim, layout::AnimLine);
             Json frames = Json::array();
             if (anim.frameCount > 0) {
+                frames.get_ref<Json::array_t &>().reserve(static_cast<size_t>(anim.frameCount));
                 for (const FrameRec &frame : anim.frames)
                     if (frame.inUse == -1)
                         frames.push_back(frame.cell);
