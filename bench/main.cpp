@@ -39,6 +39,8 @@ using namespace vorlane;
 using Clock = std::chrono::steady_clock;
 
 constexpr double MB = 1e6;
+// The budget of the two commands: within this many times the plain copy of their bytes.
+constexpr double ToolRatio = 10.0;
 
 // Answers Yes to the questions of Save and Generate and shows nothing.
 class AnswerYes : public UserInterface
@@ -143,9 +145,9 @@ ChildRun measureChild(const std::string &peakMemory, std::vector<std::string> ar
     return run;
 }
 
-ByteBuffer readFile(const std::string &path)
+std::string readFile(const std::string &path)
 {
-    ByteBuffer bytes;
+    std::string bytes;
     if (const int error = systemFileOps().readAll(path, bytes); error != 0)
         fail(path + ": " + errorText(error));
     return bytes;
@@ -251,8 +253,8 @@ int benchCore(int runs,
 
     if (!saveProject(*doc, ui, quiet, systemFileOps()).written())
         fail(project + ": could not be saved");
-    const ByteBuffer bytes = readFile(project);
-    const auto lines = std::count(bytes.view().begin(), bytes.view().end(), '\n');
+    const std::string bytes = readFile(project);
+    const auto lines = std::count(bytes.begin(), bytes.end(), '\n');
     const std::vector<EngineFile> files = engineFiles(*doc, "generated/");
     const size_t engineBytes = totalSize(files);
     std::printf("Project: %.2f MB, %ld lines; engine files: %.2f MB; median of %d runs\n\n",
@@ -325,7 +327,7 @@ int benchCore(int runs,
     const ChildTimes convert = measureTool({cli, "convert", project, converted},
                                            [&] { writeSafely(copyProject, readFile(project)); });
     rows.push_back(
-        {"vorlane-cli convert", 2 * bytes.size(), convert.median, convert.copyMedian, 2.0});
+        {"vorlane-cli convert", 2 * bytes.size(), convert.median, convert.copyMedian, ToolRatio});
 
     const std::string cliOut = folder + "/cli-generated";
     const ChildTimes cliGenerate =
@@ -337,7 +339,7 @@ int benchCore(int runs,
                     bytes.size() + engineBytes,
                     cliGenerate.median,
                     cliGenerate.copyMedian,
-                    2.0});
+                    ToolRatio});
     const long convertRss = convert.maxRssKb;
     const long generateRss = cliGenerate.maxRssKb;
 
@@ -369,10 +371,10 @@ int benchCore(int runs,
     std::vector<JsonRow> jsonRows;
     jsonRows.push_back(
         {"vorlane-cli export", measureTool({cli, "export", project, json}, justRead), 1.0});
-    const ByteBuffer jsonBytes = readFile(json);
+    const std::string jsonBytes = readFile(json);
     jsonRows.push_back(
         {"vorlane-cli import", measureTool({cli, "import", json, imported}, justRead), 1.0});
-    if (readFile(imported).view() != bytes.view())
+    if (readFile(imported) != bytes)
         fail(imported + ": import did not give back the project file");
     jsonRows.push_back(
         {"vorlane-cli diff", measureTool({cli, "diff", project, converted}, justRead, 1), 2.0});

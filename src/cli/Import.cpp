@@ -18,13 +18,13 @@ int runImport(const std::vector<std::string> &args, std::ostream & /*out*/, std:
         return ExitUsage;
     }
     const std::string &in = args[0];
-    ByteBuffer bytes;
+    std::string bytes;
     if (const int error = systemFileOps().readAll(in, bytes); error != 0) {
         err << "vorlane-cli: " << in << ": " << errorText(error) << "\n";
         return ExitFailure;
     }
     auto doc = makeDocument();
-    if (const auto problem = projectFromJsonText(bytes.view(), *doc)) {
+    if (const auto problem = projectFromJsonText(bytes, *doc)) {
         err << "vorlane-cli: " << problemText(in, *problem) << "\n";
         return ExitFailure;
     }

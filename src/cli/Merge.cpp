@@ -16,7 +16,7 @@ namespace {
 // empty project.
 std::optional<Json> readBase(const std::string &path, std::ostream &err)
 {
-    ByteBuffer bytes;
+    std::string bytes;
     if (systemFileOps().readAll(path, bytes) == 0 && bytes.size() == 0)
         return Json::object();
     return readProjectAsJson(path, err);

@@ -11,7 +11,7 @@ namespace vorlane {
 
 std::optional<Json> readProjectAsJson(const std::string &path, std::ostream &err)
 {
-    ByteBuffer bytes;
+    std::string bytes;
     if (const int error = systemFileOps().readAll(path, bytes); error != 0) {
         err << "vorlane-cli: " << path << ": " << errorText(error) << "\n";
         return std::nullopt;
@@ -36,12 +36,8 @@ bool writeProjectFileTo(const Document &doc,
                         int backups,
                         std::ostream &err)
 {
-    ProgressSink quiet;
-    const FileWriteResult written = writeFileSafely(
-        path,
-        [&](ChunkSink &sink) { writeProjectFile(doc, quiet, sink); },
-        systemFileOps(),
-        SafeWriteOptions{backups});
+    const FileWriteResult written =
+        writeFileSafely(path, projectFileBytes(doc), systemFileOps(), SafeWriteOptions{backups});
     if (!written.ok) {
         err << "vorlane-cli: " << path << ": " << written.reason << "\n";
         return false;

@@ -30,7 +30,7 @@ std::string importBytes(const std::string &text)
     auto doc = makeDocument();
     const auto problem = projectFromJsonText(text, *doc);
     EXPECT_FALSE(problem) << (problem ? problemText("in.json", *problem) : "");
-    return projectFileBytes(*doc).str();
+    return projectFileBytes(*doc);
 }
 
 // Why importing `text` fails, as the command line shows it.
@@ -80,7 +80,7 @@ TEST(ProjectJson, ExportThenImportGivesBackEveryRandomProjectFileByteForByte)
     for (unsigned seed = 1; seed <= 120; ++seed) {
         auto doc = RandomProject(seed, seed % 2 == 0).make();
         removeNewObjects(*doc);
-        const std::string file = projectFileBytes(*doc).str();
+        const std::string file = projectFileBytes(*doc);
         const std::string text = exportText(file);
         ASSERT_EQ(importBytes(text), file) << "seed " << seed;
         hotSpotCursors += text.find("\"id\": \"_") != std::string::npos &&
@@ -94,7 +94,7 @@ TEST(ProjectJson, ImportFillsTheDocumentAsTheReaderFillsItFromTheFile)
     for (unsigned seed = 301; seed <= 320; ++seed) {
         auto doc = RandomProject(seed, false).make();
         removeNewObjects(*doc);
-        const std::string file = projectFileBytes(*doc).str();
+        const std::string file = projectFileBytes(*doc);
         auto read = makeDocument();
         ASSERT_EQ(readProjectForJson(file, *read).status, ProjectReadResult::Status::Read);
         auto imported = makeDocument();

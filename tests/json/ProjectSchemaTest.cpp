@@ -40,7 +40,7 @@ TEST(ProjectSchema, EveryExportHoldsToTheSchema)
     for (unsigned seed = 1; seed <= 12; ++seed) {
         auto doc = RandomProject(seed, false).make();
         removeNewObjects(*doc);
-        ASSERT_EQ(schema.errors(exported(projectFileBytes(*doc).str())), Lines{})
+        ASSERT_EQ(schema.errors(exported(projectFileBytes(*doc))), Lines{})
             << "seed " << seed;
     }
 }

@@ -19,7 +19,7 @@ using namespace testsupport;
 std::string save(Document &doc)
 {
     removeNewObjects(doc);
-    return projectFileBytes(doc).str();
+    return projectFileBytes(doc);
 }
 
 std::string reopenAndSave(const std::string &bytes)
