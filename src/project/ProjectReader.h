@@ -8,6 +8,15 @@
 
 namespace vorlane {
 
+// How the reader treats what the program does not keep.
+struct ReadOptions
+{
+    // Keep the two values of the file that Open drops: the cursor of a hot spot's line
+    // (instead of "null") and a splashEnabled other than 1 (instead of 0), for the forms that
+    // must carry everything the file holds (the JSON export).
+    bool keepFileValues = false;
+};
+
 // What reading a project file came to.
 struct ProjectReadResult
 {
@@ -36,6 +45,12 @@ ProjectReadResult readProject(std::string_view bytes, Document &doc, ProgressSin
 
 // The same, without progress reports.
 ProjectReadResult readProject(std::string_view bytes, Document &doc);
+
+// The same, read as `options` say.
+ProjectReadResult readProject(std::string_view bytes,
+                              Document &doc,
+                              ProgressSink &progress,
+                              const ReadOptions &options);
 
 // "FILE:LINE: MESSAGE", the form in which damage is shown.
 std::string damageText(std::string_view file, int line, std::string_view message);
