@@ -63,7 +63,7 @@ TEST(ObjectFilePath, RelativeRootFolderLiesBesideTheProjectFile)
 
 TEST(ObjectFilePath, ProjectFileWithoutFolderCountsFromTheWorkingFolder)
 {
-    // The example project records its own path as "demo.dvb" and its root as "build/demo".
+    // A project file named without a folder lies in the working folder.
     EXPECT_EQ(resolveObjectPath("../../examples/art/hero-walk.png", "build/demo", "demo.dvb"),
               "examples/art/hero-walk.png");
 }
