@@ -25,11 +25,6 @@ public:
     {
         return counted(m_files.writeFile(path, bytes));
     }
-    std::optional<std::string> writeChunked(const std::string &path,
-                                            const ChunkProducer &produce) override
-    {
-        return counted(m_files.writeChunked(path, produce));
-    }
     int written() const { return m_written; }
 
 private:
