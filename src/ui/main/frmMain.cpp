@@ -431,7 +431,7 @@ void frmMain::mnuCheckProject_Click()
 
 void frmMain::mnuGenDataAs_Click()
 {
-    generateDataAs(m_doc, m_generateState, m_userInterface, progress());
+    showGenerated(generateDataAs(m_doc, m_generateState, m_userInterface, progress()));
     listsChanged();
     // Once a folder has been chosen, Generate Data may run again into it.
     if (m_generateState.generateAgainAvailable)
@@ -442,8 +442,14 @@ void frmMain::mnuGenData_Click()
 {
     if (!m_generateState.generateAgainAvailable)
         return;
-    generateDataAgain(m_doc, m_generateState, m_userInterface, progress());
+    showGenerated(generateDataAgain(m_doc, m_generateState, m_userInterface, progress()));
     listsChanged();
+}
+
+void frmMain::showGenerated(const GenerateResult &result)
+{
+    if (result.outcome == GenerateOutcome::Generated)
+        statusBar()->showMessage(qs(generatedText(result.filesWritten, result.folder)));
 }
 
 void frmMain::mnuExit_Click()
