@@ -6,6 +6,7 @@
 #include "ObjectListView.h"
 #include "QuickStatsView.h"
 #include "ProblemsPanel.h"
+#include "RecoveryKeeper.h"
 #include "io/SystemFileOps.h"
 #include "project/ProjectCheck.h"
 #include "generate/GenerateCommands.h"
@@ -16,6 +17,7 @@
 #include "platform/Registry.h"
 #include "rules/UserInterface.h"
 #include "project/Open.h"
+#include "project/RecoveryStore.h"
 #include "project/Save.h"
 #include "frmAppLogProps.h"
 #include "frmAppSoundProps.h"
@@ -313,6 +315,7 @@ void frmMain::mnuNew_Click()
     for (Kind kind : ListOrder)
         showList(kind);
     selectFirstTab();
+    markSaved();
 }
 
 void frmMain::listsChanged()
@@ -333,16 +336,59 @@ void frmMain::mnuOpen_Click()
     const auto path = m_userInterface.chooseFile(request);
     if (!path)
         return;
-    const OpenOutcome outcome = Open(m_doc, *path, m_userInterface, progress());
+    if (openChosen(*path).opened())
+        markSaved();
+}
+
+OpenOutcome frmMain::openChosen(const std::string &path)
+{
+    const OpenOutcome outcome = Open(m_doc, path, m_userInterface, progress());
     m_ui.txtAppRootFolder->setText(qs(m_doc.AppSettings.rootFolder));
     listsChanged();
     if (!outcome.opened())
-        return;
+        return outcome;
     // A project that was already open keeps its caption: only the first Open of a run sets it.
     if (outcome.firstProject)
         projectOpened();
     selectFirstTab();
     UpdateAppStats();
+    return outcome;
+}
+
+void frmMain::markSaved()
+{
+    if (m_saved)
+        *m_saved = m_doc;
+    else
+        m_saved = std::make_unique<Document>(m_doc);
+}
+
+// Kept simple on purpose: a copy of the document taken at Save, Open and New, compared whole.
+bool frmMain::hasUnsavedChanges() const
+{
+    return m_doc.ProjectInfo.projectOpen == -1 && (!m_saved || *m_saved != m_doc);
+}
+
+void frmMain::startRecovery()
+{
+    startRecovery(RecoveryStore(RecoveryStore::defaultFolder()));
+}
+
+void frmMain::startRecovery(RecoveryStore store)
+{
+    // Each file is kept until its question is answered; Yes opens it like Open, except that
+    // the project keeps the path recorded inside it, and its changes stay unsaved.
+    for (const RecoveryFile &file : store.abandoned()) {
+        if (m_userInterface.showMessage(recoveryQuestion(file)) == MessageAnswer::Yes &&
+            openChosen(file.path).opened()) {
+            m_doc.openedFrom.clear();
+            m_saved.reset();
+        }
+        RecoveryStore::remove(file);
+    }
+    m_recovery = new RecoveryKeeper(
+        m_doc, std::move(store), [this] { return hasUnsavedChanges(); }, this);
+    m_recovery->start();
 }
 
 void frmMain::mnuSave_Click()
@@ -362,8 +408,10 @@ bool frmMain::saveProject()
     const SaveResult result =
         vorlane::saveProject(m_doc, m_userInterface, progress(), systemFileOps());
     listsChanged();
-    if (result.written())
+    if (result.written()) {
+        markSaved();
         showSaveProblems(result.notices);
+    }
     return result.written();
 }
 
@@ -384,8 +432,10 @@ bool frmMain::saveProjectAs()
         vorlane::saveProject(m_doc, m_userInterface, progress(), systemFileOps());
     listsChanged();
     m_ui.mnuSave->setEnabled(true);
-    if (result.written())
+    if (result.written()) {
+        markSaved();
         showSaveProblems(result.notices);
+    }
     return result.written();
 }
 
@@ -473,6 +523,8 @@ void frmMain::closeEvent(QCloseEvent *event)
         }
     }
     event->accept();
+    if (m_recovery)
+        m_recovery->closing();
 }
 
 QString frmMain::manualPath()

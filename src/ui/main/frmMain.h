@@ -2,6 +2,7 @@
 
 #include "generate/GenerateState.h"
 #include "model/modGlobal.h"
+#include "project/Open.h"
 
 #include "ui_frmMain.h"
 
@@ -9,6 +10,7 @@
 
 #include <array>
 #include <functional>
+#include <memory>
 
 class QListWidget;
 
@@ -18,6 +20,8 @@ class ObjectListView;
 class UserInterface;
 class frmProgress;
 class ProblemsPanel;
+class RecoveryKeeper;
+class RecoveryStore;
 class Registry;
 struct GenerateResult;
 struct QuickStats;
@@ -61,6 +65,16 @@ public:
     void cmdLogEditType_Click();
     void cmdLogEditFile_Click();
     void cmdLogEditCustom_Click();
+
+    // Offers the recovery files of editors that no longer run, one question each, then keeps
+    // this editor's own recovery file in `store` (by default in the user's state folder).
+    void startRecovery();
+    void startRecovery(RecoveryStore store);
+    // Null until startRecovery.
+    RecoveryKeeper *recoveryKeeper() { return m_recovery; }
+    // Whether the document differs from the project file it was last saved to or opened from
+    // (or from the new project as it was made).
+    bool hasUnsavedChanges() const;
 
     void UpdateAppStats();
     void updateObjectStats(Kind kind, int slot);
@@ -108,6 +122,10 @@ private:
     void showGenerated(const GenerateResult &result);
     // Shows every list again after Open, Save or Generate changed them.
     void listsChanged();
+    // Opens `path` as the current project once it is chosen.
+    OpenOutcome openChosen(const std::string &path);
+    // The document now equals its project file.
+    void markSaved();
 
     Ui::frmMain m_ui;
     Document &m_doc;
@@ -122,6 +140,8 @@ private:
     std::array<EditorOpener, KindCount> m_editors;
     std::function<bool(const QUrl &)> m_openUrl;
     GenerateState m_generateState;
+    std::unique_ptr<Document> m_saved; // the document as last saved, opened or made
+    RecoveryKeeper *m_recovery = nullptr;
 };
 
 } // namespace vorlane
