@@ -9,6 +9,7 @@
 #include "io/SystemFileOps.h"
 #include "project/ProjectCheck.h"
 #include "generate/GenerateCommands.h"
+#include "history/StepNames.h"
 #include "model/Kinds.h"
 #include "rules/ObjectManagement.h"
 #include "rules/QuickStats.h"
@@ -30,6 +31,8 @@
 #include <QDesktopServices>
 #include <QDir>
 #include <QFileInfo>
+#include <QKeySequence>
+#include <QLabel>
 #include <QListWidget>
 #include <QProcess>
 #include <QStatusBar>
@@ -46,23 +49,43 @@ QString qs(const std::string &text)
     return QString::fromStdString(text);
 }
 
-// Loads a settings or filter dialog and shows it modally; returns when it closes.
-template<class Dialog, class... Args>
-void showModal(Args &&...args)
+// A step's name in a menu caption: an "&" of an id shows as itself.
+QString menuText(const std::string &text)
 {
-    Dialog dialog(std::forward<Args>(args)...);
-    dialog.run();
+    return qs(text).replace(QLatin1Char('&'), QStringLiteral("&&"));
 }
 
 } // namespace
+
+// Loads a settings or filter dialog and shows it modally, as one step named by its title.
+template<class Dialog, class... Args>
+void frmMain::runDialog(Args &&...args)
+{
+    endTypingRun();
+    m_history->beginStep({});
+    std::string title;
+    {
+        Dialog dialog(std::forward<Args>(args)...);
+        title = dialog.windowTitle().toStdString();
+        dialog.run();
+    }
+    endSession(title);
+}
 
 frmMain::frmMain(Document &doc, UserInterface &userInterface, QWidget *parent)
     : QMainWindow(parent)
     , m_doc(doc)
     , m_userInterface(userInterface)
     , m_openUrl([](const QUrl &url) { return QDesktopServices::openUrl(url); })
+    , m_history(std::make_unique<History>(doc))
 {
     m_ui.setupUi(this);
+    m_ui.mnuRedo->setShortcuts(
+        {QKeySequence(QStringLiteral("Ctrl+Shift+Z")), QKeySequence(QStringLiteral("Ctrl+Y"))});
+    // A permanent field, so that the messages of Save and Check Project show beside it.
+    m_unsavedMark = new QLabel(this);
+    m_unsavedMark->setObjectName(QStringLiteral("lblUnsaved"));
+    statusBar()->addPermanentWidget(m_unsavedMark);
     for (int tab = 0; tab <= TabCount; ++tab)
         m_tabs[static_cast<size_t>(tab)] =
             findChild<QFrame *>(QStringLiteral("fraTab_%1").arg(tab));
@@ -107,6 +130,10 @@ void frmMain::connectHandlers()
             [this, tab]() { lstObjects_DblClick(tab); });
     connect(
         m_ui.txtAppRootFolder, &QLineEdit::textChanged, this, &frmMain::txtAppRootFolder_Change);
+    connect(m_ui.txtAppRootFolder,
+            &QLineEdit::editingFinished,
+            this,
+            &frmMain::txtAppRootFolder_EditingFinished);
     connect(m_ui.cmdObjAdd, &QPushButton::clicked, this, &frmMain::cmdObjAdd_Click);
     connect(m_ui.cmdObjEdit, &QPushButton::clicked, this, &frmMain::cmdObjEdit_Click);
     connect(m_ui.cmdObjRemove, &QPushButton::clicked, this, &frmMain::cmdObjRemove_Click);
@@ -120,6 +147,8 @@ void frmMain::connectHandlers()
     connect(m_ui.mnuExit, &QAction::triggered, this, &frmMain::mnuExit_Click);
     connect(m_ui.mnuOnlineHelp, &QAction::triggered, this, &frmMain::mnuOnlineHelp_Click);
     connect(m_ui.mnuAbout, &QAction::triggered, this, &frmMain::mnuAbout_Click);
+    connect(m_ui.mnuUndo, &QAction::triggered, this, &frmMain::mnuUndo_Click);
+    connect(m_ui.mnuRedo, &QAction::triggered, this, &frmMain::mnuRedo_Click);
     connect(m_ui.cmdAppWindowProps, &QPushButton::clicked, this, &frmMain::cmdAppWindowProps_Click);
     connect(m_ui.cmdAppSoundProps, &QPushButton::clicked, this, &frmMain::cmdAppSoundProps_Click);
     connect(m_ui.cmdAppSplashProps, &QPushButton::clicked, this, &frmMain::cmdAppSplashProps_Click);
@@ -201,7 +230,20 @@ void frmMain::lstObjects_DblClick(int index)
 
 void frmMain::txtAppRootFolder_Change()
 {
+    // Typing opens a run, one step until the box is left; a text set inside another step
+    // (Open's) belongs to that step.
+    if (!m_history->inStep() && m_doc.ProjectInfo.projectOpen == -1) {
+        m_history->beginStep(RootFolderStepName);
+        m_typingRun = true;
+    }
     m_doc.AppSettings.rootFolder = m_ui.txtAppRootFolder->text().toStdString();
+    if (m_typingRun)
+        showEditMenu();
+}
+
+void frmMain::txtAppRootFolder_EditingFinished()
+{
+    endTypingRun();
 }
 
 void frmMain::setEditor(Kind kind, EditorOpener opener)
@@ -229,14 +271,16 @@ void frmMain::cmdObjAdd_Click()
     if (!isObjectTab(m_currentTab))
         return;
     const Kind kind = kindOfTab(m_currentTab);
-    const AddResult result = addObject(m_doc, kind);
-    if (result.refusal) {
-        m_userInterface.showMessage(*result.refusal);
-        return;
-    }
-    showList(kind);
-    m_ui.cmdObjRemove->setEnabled(true);
-    m_ui.cmdObjEdit->setEnabled(true);
+    runStep(addStepName(kind), [this, kind]() {
+        const AddResult result = addObject(m_doc, kind);
+        if (result.refusal) {
+            m_userInterface.showMessage(*result.refusal);
+            return;
+        }
+        showList(kind);
+        m_ui.cmdObjRemove->setEnabled(true);
+        m_ui.cmdObjEdit->setEnabled(true);
+    });
 }
 
 void frmMain::cmdObjEdit_Click()
@@ -244,10 +288,18 @@ void frmMain::cmdObjEdit_Click()
     if (!isObjectTab(m_currentTab))
         return;
     const Kind kind = kindOfTab(m_currentTab);
+    // Choosing the current object is no change of the project: the step is the session.
     if (!editObject(m_doc, kind))
         return;
-    if (const auto &open = m_editors[static_cast<size_t>(kindIndex(kind))])
-        open(*this);
+    const auto &open = m_editors[static_cast<size_t>(kindIndex(kind))];
+    if (!open)
+        return;
+    endTypingRun();
+    const int slot = m_doc.currentObjectIndex;
+    m_history->beginStep({});
+    open(*this);
+    // The step takes the id the object has when its editor closes.
+    endSession(editStepName(kind, slotInTable(kind, slot) ? slotOf(m_doc, kind, slot).id : ""));
 }
 
 void frmMain::cmdObjRemove_Click()
@@ -255,15 +307,20 @@ void frmMain::cmdObjRemove_Click()
     if (!isObjectTab(m_currentTab))
         return;
     const Kind kind = kindOfTab(m_currentTab);
-    const RemoveResult result = removeObject(m_doc, kind);
-    if (!result.removed)
-        return;
-    showList(kind);
-    if (result.listEmpty) {
-        m_ui.cmdObjRemove->setEnabled(false);
-        m_ui.cmdObjEdit->setEnabled(true);
-        coverFrame(m_currentTab)->setVisible(true);
-    }
+    const ObjectList &list = m_doc.list(kind);
+    const bool selected = list.selected >= 0 && list.selected < static_cast<int>(list.lines.size());
+    const std::string id = selected ? list.lines[static_cast<size_t>(list.selected)].text : "";
+    runStep(removeStepName(kind, id), [this, kind]() {
+        const RemoveResult result = removeObject(m_doc, kind);
+        if (!result.removed)
+            return;
+        showList(kind);
+        if (result.listEmpty) {
+            m_ui.cmdObjRemove->setEnabled(false);
+            m_ui.cmdObjEdit->setEnabled(true);
+            coverFrame(m_currentTab)->setVisible(true);
+        }
+    });
 }
 
 void frmMain::projectOpened()
@@ -306,11 +363,14 @@ void frmMain::mnuNew_Click()
     frmDataProjName dialog(this);
     if (dialog.exec() != QDialog::Accepted)
         return;
-    setUpNewProject(m_doc, dialog.name().toStdString());
-    projectOpened();
-    for (Kind kind : ListOrder)
-        showList(kind);
-    selectFirstTab();
+    runProjectStep(NewStepName, [this, &dialog]() {
+        setUpNewProject(m_doc, dialog.name().toStdString());
+        projectOpened();
+        for (Kind kind : ListOrder)
+            showList(kind);
+        selectFirstTab();
+    });
+    showUnsavedMark();
 }
 
 void frmMain::listsChanged()
@@ -331,16 +391,23 @@ void frmMain::mnuOpen_Click()
     const auto path = m_userInterface.chooseFile(request);
     if (!path)
         return;
-    const OpenOutcome outcome = Open(m_doc, *path, m_userInterface, progress());
-    m_ui.txtAppRootFolder->setText(qs(m_doc.AppSettings.rootFolder));
-    listsChanged();
-    if (!outcome.opened())
-        return;
-    // A project that was already open keeps its caption: only the first Open of a run sets it.
-    if (outcome.firstProject)
-        projectOpened();
-    selectFirstTab();
-    UpdateAppStats();
+    // The whole Open is one step, a file read half-way included: undoing it brings back the
+    // project that was open before.
+    runProjectStep(openStepName(*path), [this, &path]() {
+        const OpenOutcome outcome = Open(m_doc, *path, m_userInterface, progress());
+        m_ui.txtAppRootFolder->setText(qs(m_doc.AppSettings.rootFolder));
+        listsChanged();
+        if (!outcome.opened())
+            return;
+        // A project that was already open keeps its caption: only the first Open of a run sets
+        // it.
+        if (outcome.firstProject)
+            projectOpened();
+        selectFirstTab();
+        UpdateAppStats();
+        m_history->markSaved();
+    });
+    showUnsavedMark();
 }
 
 void frmMain::mnuSave_Click()
@@ -357,8 +424,10 @@ bool frmMain::saveProject()
 {
     if (m_doc.ProjectInfo.projectFilePath.empty())
         return saveProjectAs();
-    const SaveResult result =
-        vorlane::saveProject(m_doc, m_userInterface, progress(), systemFileOps());
+    SaveResult result;
+    recordRemovedNewObjects([this, &result]() {
+        result = vorlane::saveProject(m_doc, m_userInterface, progress(), systemFileOps());
+    });
     listsChanged();
     if (result.written())
         showSaveProblems(result.notices);
@@ -378,8 +447,10 @@ bool frmMain::saveProjectAs()
         return false;
     // A name typed without an extension gets ".dvb", so that Open's filter shows the file.
     recordChosenPath(m_doc, withProjectExtension(*path));
-    const SaveResult result =
-        vorlane::saveProject(m_doc, m_userInterface, progress(), systemFileOps());
+    SaveResult result;
+    recordRemovedNewObjects([this, &result]() {
+        result = vorlane::saveProject(m_doc, m_userInterface, progress(), systemFileOps());
+    });
     listsChanged();
     m_ui.mnuSave->setEnabled(true);
     if (result.written())
@@ -389,6 +460,8 @@ bool frmMain::saveProjectAs()
 
 void frmMain::showSaveProblems(const std::vector<std::string> &notices)
 {
+    m_history->markSaved();
+    showUnsavedMark();
     const std::string path = projectSavePath(m_doc);
     std::vector<std::string> lines = notices;
     for (std::string &problem : projectFileProblems(m_doc, path))
@@ -429,8 +502,10 @@ void frmMain::mnuCheckProject_Click()
 
 void frmMain::mnuGenDataAs_Click()
 {
-    generateDataAs(m_doc, m_generateState, m_userInterface, progress());
+    recordRemovedNewObjects(
+        [this]() { generateDataAs(m_doc, m_generateState, m_userInterface, progress()); });
     listsChanged();
+    showUnsavedMark();
     // Once a folder has been chosen, Generate Data may run again into it.
     if (m_generateState.generateAgainAvailable)
         m_ui.mnuGenData->setEnabled(true);
@@ -440,8 +515,10 @@ void frmMain::mnuGenData_Click()
 {
     if (!m_generateState.generateAgainAvailable)
         return;
-    generateDataAgain(m_doc, m_generateState, m_userInterface, progress());
+    recordRemovedNewObjects(
+        [this]() { generateDataAgain(m_doc, m_generateState, m_userInterface, progress()); });
     listsChanged();
+    showUnsavedMark();
 }
 
 void frmMain::mnuExit_Click()
@@ -451,6 +528,7 @@ void frmMain::mnuExit_Click()
 
 void frmMain::closeEvent(QCloseEvent *event)
 {
+    endTypingRun();
     // Form_Unload: a project that was never saved or opened closes without a question.
     if (!m_doc.ProjectInfo.projectFilePath.empty()) {
         const auto answer =
@@ -501,37 +579,162 @@ void frmMain::mnuAbout_Click()
 
 void frmMain::cmdAppWindowProps_Click()
 {
-    showModal<frmAppWindowProps>(m_doc, this);
+    runDialog<frmAppWindowProps>(m_doc, this);
 }
 
 void frmMain::cmdAppSoundProps_Click()
 {
-    showModal<frmAppSoundProps>(m_doc, this);
+    runDialog<frmAppSoundProps>(m_doc, this);
 }
 
 void frmMain::cmdAppSplashProps_Click()
 {
-    showModal<frmAppSplashProps>(m_doc, this);
+    runDialog<frmAppSplashProps>(m_doc, this);
 }
 
 void frmMain::cmdAppLogProps_Click()
 {
-    showModal<frmAppLogProps>(m_doc, this);
+    runDialog<frmAppLogProps>(m_doc, this);
 }
 
 void frmMain::cmdLogEditType_Click()
 {
-    showModal<frmLogType>(m_doc, this);
+    runDialog<frmLogType>(m_doc, this);
 }
 
 void frmMain::cmdLogEditFile_Click()
 {
-    showModal<frmLogFile>(m_doc, this);
+    runDialog<frmLogFile>(m_doc, this);
 }
 
 void frmMain::cmdLogEditCustom_Click()
 {
-    showModal<frmLogCustom>(m_doc, m_userInterface, this);
+    runDialog<frmLogCustom>(m_doc, m_userInterface, this);
+}
+
+bool frmMain::runStep(const std::string &name, const std::function<void()> &change)
+{
+    endTypingRun();
+    m_history->beginStep(name);
+    change();
+    const bool recorded = m_history->endStep();
+    if (recorded)
+        documentChanged();
+    return recorded;
+}
+
+void frmMain::runProjectStep(const std::string &name, const std::function<void()> &change)
+{
+    endTypingRun();
+    // Before the first project of the run there is nothing to go back to.
+    if (m_doc.ProjectInfo.projectOpen == 0) {
+        change();
+        showEditMenu();
+        return;
+    }
+    runStep(name, change);
+}
+
+void frmMain::recordRemovedNewObjects(const std::function<void()> &write)
+{
+    endTypingRun();
+    const auto before = m_doc.lists;
+    write();
+    if (m_doc.lists == before)
+        return;
+    // Only the lines taken off are the step: the path Save As records, or the folder
+    // Generate records, stays as it is when the step is undone.
+    auto after = m_doc.lists;
+    m_doc.lists = before;
+    runStep(RemoveNewObjectsStepName, [this, &after]() { m_doc.lists = std::move(after); });
+}
+
+void frmMain::endSession(const std::string &name)
+{
+    const bool recorded = m_history->cutStep(name);
+    m_history->endStep();
+    if (recorded)
+        documentChanged();
+    else
+        showEditMenu();
+}
+
+void frmMain::endTypingRun()
+{
+    if (!m_typingRun)
+        return;
+    m_typingRun = false;
+    if (m_history->endStep())
+        documentChanged();
+    else
+        showEditMenu();
+}
+
+void frmMain::mnuUndo_Click()
+{
+    endTypingRun();
+    if (!m_history->canUndo())
+        return;
+    m_history->undo();
+    documentChanged();
+}
+
+void frmMain::mnuRedo_Click()
+{
+    endTypingRun();
+    if (!m_history->canRedo())
+        return;
+    m_history->redo();
+    documentChanged();
+}
+
+void frmMain::documentChanged()
+{
+    if (m_ui.txtAppRootFolder->text() != qs(m_doc.AppSettings.rootFolder)) {
+        // The box shows the document: setting it is no typing.
+        const QSignalBlocker blocker(m_ui.txtAppRootFolder);
+        m_ui.txtAppRootFolder->setText(qs(m_doc.AppSettings.rootFolder));
+    }
+    listsChanged();
+    showCurrentStats();
+    showEditMenu();
+    showUnsavedMark();
+}
+
+void frmMain::showCurrentStats()
+{
+    if (m_currentTab == 1) {
+        UpdateAppStats();
+        return;
+    }
+    if (!isObjectTab(m_currentTab))
+        return;
+    const ObjectList &list = m_doc.list(kindOfTab(m_currentTab));
+    if (list.selected >= 0 && list.selected < static_cast<int>(list.lines.size()))
+        lstObjects_Click(m_currentTab);
+    else if (list.lines.empty())
+        coverFrame(m_currentTab)->setVisible(true);
+}
+
+void frmMain::showEditMenu()
+{
+    // A run of typing still open is what Undo takes back first.
+    const bool typing = m_typingRun;
+    m_ui.mnuUndo->setEnabled(typing || m_history->canUndo());
+    m_ui.mnuUndo->setText(typing ? QStringLiteral("Undo ") + menuText(RootFolderStepName)
+                          : m_history->canUndo()
+                              ? QStringLiteral("Undo ") + menuText(m_history->undoName())
+                              : QStringLiteral("Undo"));
+    const bool redo = !typing && m_history->canRedo();
+    m_ui.mnuRedo->setEnabled(redo);
+    m_ui.mnuRedo->setText(redo ? QStringLiteral("Redo ") + menuText(m_history->redoName())
+                               : QStringLiteral("Redo"));
+}
+
+void frmMain::showUnsavedMark()
+{
+    const bool unsaved = m_doc.ProjectInfo.projectOpen == -1 && m_history->unsaved();
+    m_unsavedMark->setText(unsaved ? QStringLiteral("Unsaved changes") : QString());
 }
 
 } // namespace vorlane
