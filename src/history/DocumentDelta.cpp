@@ -1,5 +1,7 @@
 #include "history/DocumentDelta.h"
 
+#include <algorithm>
+#include <cstddef>
 #include <cstring>
 #include <string>
 #include <type_traits>
@@ -83,14 +85,6 @@ std::size_t heapBytes(const AppSettingsRec &r)
         r, &R::windowCaption, &R::windowIcon, &R::splashImagePath, &R::logPath, &R::rootFolder);
     for (const CustomFilterRec &filter : r.CustomFilters)
         bytes += heapBytes(filter.text);
-    return bytes;
-}
-
-std::size_t heapBytes(const ObjectList &list)
-{
-    std::size_t bytes = list.lines.capacity() * sizeof(ListLine);
-    for (const ListLine &line : list.lines)
-        bytes += heapBytes(line.text);
     return bytes;
 }
 
@@ -204,6 +198,41 @@ std::size_t heapBytes(const ProjectPlace &r)
 {
     return heapBytes(r.info.projectName) + heapBytes(r.info.projectFilePath) +
            heapBytes(r.info.generatePath) + heapBytes(r.openedFrom);
+}
+
+// The lines of a list that a step replaced: the run between the lines it kept at the front
+// and at the back, and the selection.
+struct ListChange
+{
+    std::size_t front = 0; // lines kept at the front
+    std::size_t back = 0;  // lines kept at the back
+    std::vector<ListLine> lines;
+    int selected = -1;
+
+    bool operator==(const ListChange &) const = default;
+};
+
+std::size_t heapBytes(const ListChange &change)
+{
+    std::size_t bytes = change.lines.capacity() * sizeof(ListLine);
+    for (const ListLine &line : change.lines)
+        bytes += heapBytes(line.text);
+    return bytes;
+}
+
+// Puts `change` into `list`, whose lines outside the changed run are those the change kept.
+void putListChange(ObjectList &list, const ListChange &change)
+{
+    // Bounded by the list as it is, should something outside a step have changed it.
+    const std::size_t size = list.lines.size();
+    const std::size_t front = std::min(change.front, size);
+    const std::size_t back = std::min(change.back, size - front);
+    list.lines.erase(list.lines.begin() + static_cast<std::ptrdiff_t>(front),
+                     list.lines.end() - static_cast<std::ptrdiff_t>(back));
+    list.lines.insert(list.lines.begin() + static_cast<std::ptrdiff_t>(front),
+                      change.lines.begin(),
+                      change.lines.end());
+    list.selected = change.selected;
 }
 
 // One part: its two values and how one of them is put into a document.
@@ -334,13 +363,32 @@ DocumentDelta DocumentDelta::between(const Document &before, const Document &aft
     diffValue(parts, Counters(before), Counters(after), [](Document &doc, const auto &v) {
         v.putInto(doc);
     });
+    // A list keeps only the run of lines that changed: adding or removing one object costs
+    // one line, not the list.
     for (std::size_t list = 0; list < before.lists.size(); ++list) {
-        if (before.lists[list] == after.lists[list])
+        const auto &was = before.lists[list];
+        const auto &is = after.lists[list];
+        if (was == is)
             continue;
-        addPart(parts,
-                before.lists[list],
-                after.lists[list],
-                [list](Document &doc, const ObjectList &value) { doc.lists[list] = value; });
+        const std::size_t shorter = std::min(was.lines.size(), is.lines.size());
+        std::size_t front = 0;
+        while (front < shorter && was.lines[front] == is.lines[front])
+            ++front;
+        std::size_t back = 0;
+        while (back < shorter - front &&
+               was.lines[was.lines.size() - 1 - back] == is.lines[is.lines.size() - 1 - back])
+            ++back;
+        auto run = [front, back](const ObjectList &l) {
+            return ListChange{
+                front,
+                back,
+                std::vector<ListLine>(l.lines.begin() + static_cast<std::ptrdiff_t>(front),
+                                      l.lines.end() - static_cast<std::ptrdiff_t>(back)),
+                l.selected};
+        };
+        addPart(parts, run(was), run(is), [list](Document &doc, const ListChange &value) {
+            putListChange(doc.lists[list], value);
+        });
     }
     delta.m_bytes = sizeof(DocumentDelta) + parts.capacity() * sizeof(parts.front());
     for (const auto &part : parts)

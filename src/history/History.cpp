@@ -54,6 +54,7 @@ bool History::record(const std::string &name)
     m_steps.push_back({name, std::move(delta)});
     m_bytes += stepBytes(m_steps.back());
     ++m_done;
+    ++m_recorded;
     trim();
     return true;
 }

@@ -56,6 +56,9 @@ public:
     // current are not part of the file and do not count.
     bool unsaved() const;
 
+    // How many steps have been recorded since the history began, cuts included: a window
+    // compares it across a session to know whether the document changed.
+    std::size_t recordedSteps() const { return m_recorded; }
     // The steps held (done and undone) and the memory they hold.
     std::size_t stepCount() const { return m_steps.size(); }
     std::size_t bytes() const { return m_bytes; }
@@ -84,6 +87,7 @@ private:
     std::deque<Step> m_steps;
     std::size_t m_done = 0; // the steps from the front that are done; the rest can be redone
     std::size_t m_bytes = 0;
+    std::size_t m_recorded = 0;
 };
 
 } // namespace vorlane

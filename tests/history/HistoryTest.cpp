@@ -130,6 +130,7 @@ TEST_F(HistoryTest, ACutRecordsWhatChangedSoFarAndTheStepGoesOn)
     doc->Scenes[1].useMusic = 1;
     EXPECT_TRUE(history.endStep());
     EXPECT_EQ(history.stepCount(), 3u);
+    EXPECT_EQ(history.recordedSteps(), 3u);
 
     EXPECT_EQ(history.undoName(), "Edit Scene \"scnMain\"");
     history.undo();
@@ -215,6 +216,36 @@ TEST_F(HistoryTest, AStepCostsWhatItChangedNotTheDocument)
     doc->Sprites[200].anims[100].frames[100].cell = 7;
     history.endStep();
     EXPECT_LT(history.bytes() - before, 2u * 1024);
+}
+
+TEST_F(HistoryTest, AListKeepsOnlyTheRunOfLinesThatChanged)
+{
+    ObjectList &images = doc->list(Kind::Image);
+    for (int16_t slot = 1; slot <= 200; ++slot)
+        images.lines.push_back({"image number " + std::to_string(slot) + " of the project", slot});
+    History history(*doc);
+    const auto before = copy();
+    history.beginStep("Remove Image \"image number 100 of the project\"");
+    images.lines.erase(images.lines.begin() + 99);
+    images.selected = 99;
+    history.endStep();
+    const auto after = copy();
+    EXPECT_LT(history.bytes(), 1024u);
+
+    history.undo();
+    EXPECT_TRUE(*doc == *before);
+    history.redo();
+    EXPECT_TRUE(*doc == *after);
+
+    history.beginStep("Add Image");
+    images.lines.insert(images.lines.begin(), ListLine{"first", 7});
+    images.lines.push_back({"last", 8});
+    history.endStep();
+    const auto both = copy();
+    history.undo();
+    EXPECT_TRUE(*doc == *after);
+    history.redo();
+    EXPECT_TRUE(*doc == *both);
 }
 
 TEST_F(HistoryTest, UnsavedUntilMarkedAndAgainAfterAStep)

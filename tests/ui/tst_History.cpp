@@ -231,6 +231,32 @@ private slots:
         QCOMPARE(undo()->text(), QStringLiteral("Undo Add Sprite"));
     }
 
+    void aDragCutInsideASessionIsAStepOfItsOwn()
+    {
+        newProject(*m_window);
+        m_window->setEditor(Kind::Scene, [](frmMain &window) {
+            Document &doc = window.document();
+            SceneRec &scene = doc.Scenes[static_cast<size_t>(doc.currentObjectIndex)];
+            scene.id = "scnMain";
+            doc.list(Kind::Scene).lines[0].text = "scnMain";
+            window.history().cutStep({});
+            scene.layers[1].objectId = "imgHero";
+            window.history().cutStep("Move \"imgHero\"");
+        });
+        clickTab(*m_window, 10);
+        clickButton(m_window->form().cmdObjAdd);
+        clickButton(m_window->form().cmdObjEdit);
+        // Nothing changed after the drag: the session's last cut recorded it all.
+        QCOMPARE(undo()->text(), QStringLiteral("Undo Move \"imgHero\""));
+        QCOMPARE(listTexts(m_window->objectList(10)), QStringList({"scnMain"}));
+        QCOMPARE(mark(), QStringLiteral("Unsaved changes"));
+        undo()->trigger();
+        // What was done before the drag is named by the line that was opened.
+        QCOMPARE(undo()->text(), QStringLiteral("Undo Edit Scene \"New_Object0\""));
+        undo()->trigger();
+        QCOMPARE(listTexts(m_window->objectList(10)), QStringList({"New_Object0"}));
+    }
+
     void anEditorSessionThatChangesNothingIsNoStep()
     {
         newProject(*m_window);

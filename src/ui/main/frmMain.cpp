@@ -62,6 +62,7 @@ template<class Dialog, class... Args>
 void frmMain::runDialog(Args &&...args)
 {
     endTypingRun();
+    const std::size_t recorded = m_history->recordedSteps();
     m_history->beginStep({});
     std::string title;
     {
@@ -69,7 +70,7 @@ void frmMain::runDialog(Args &&...args)
         title = dialog.windowTitle().toStdString();
         dialog.run();
     }
-    endSession(title);
+    endSession(title, recorded);
 }
 
 frmMain::frmMain(Document &doc, UserInterface &userInterface, QWidget *parent)
@@ -296,10 +297,14 @@ void frmMain::cmdObjEdit_Click()
         return;
     endTypingRun();
     const int slot = m_doc.currentObjectIndex;
-    m_history->beginStep({});
+    const std::size_t recorded = m_history->recordedSteps();
+    // A step cut inside the session (a drag) takes the name of the line that was opened.
+    const ObjectList &list = m_doc.list(kind);
+    m_history->beginStep(editStepName(kind, list.lines[static_cast<size_t>(list.selected)].text));
     open(*this);
     // The step takes the id the object has when its editor closes.
-    endSession(editStepName(kind, slotInTable(kind, slot) ? slotOf(m_doc, kind, slot).id : ""));
+    endSession(editStepName(kind, slotInTable(kind, slot) ? slotOf(m_doc, kind, slot).id : ""),
+               recorded);
 }
 
 void frmMain::cmdObjRemove_Click()
@@ -649,11 +654,12 @@ void frmMain::recordRemovedNewObjects(const std::function<void()> &write)
     runStep(RemoveNewObjectsStepName, [this, &after]() { m_doc.lists = std::move(after); });
 }
 
-void frmMain::endSession(const std::string &name)
+void frmMain::endSession(const std::string &name, std::size_t recordedBefore)
 {
-    const bool recorded = m_history->cutStep(name);
+    m_history->cutStep(name);
     m_history->endStep();
-    if (recorded)
+    // A session may have cut steps of its own (a drag in the scene editor).
+    if (m_history->recordedSteps() != recordedBefore)
         documentChanged();
     else
         showEditMenu();

@@ -128,8 +128,9 @@ private:
     // Runs `write` (a Save or a Generate) and records the never-opened objects it took off the
     // lists as a step of their own: the rest of the write is no step.
     void recordRemovedNewObjects(const std::function<void()> &write);
-    // Closes the step a session opened (an editor's or a dialog's), named as it closes.
-    void endSession(const std::string &name);
+    // Closes the step a session opened (an editor's or a dialog's), named as it closes;
+    // `recordedBefore` is the history's count of recorded steps as the session began.
+    void endSession(const std::string &name, std::size_t recordedBefore);
     // Ends the open run of typing in the root folder box, recording it.
     void endTypingRun();
     void showEditMenu();
