@@ -5,6 +5,7 @@
 #include "ScriptedUserInterface.h"
 #include "frmAppWindowProps.h"
 #include "frmButton.h"
+#include "frmLogCustom.h"
 #include "frmMain.h"
 
 #include <QDir>
@@ -287,6 +288,41 @@ private slots:
         QCOMPARE(m_doc->AppSettings.windowCaption, std::string("QTA Application"));
     }
 
+    void aLogFilterWindowSessionIsOneStep()
+    {
+        newProject(*m_window);
+        clickTab(*m_window, 11);
+        const auto before = copyOf(*m_doc);
+        openDialog<frmLogCustom>(m_window->form().cmdLogEditCustom, [](frmLogCustom *dialog) {
+            typeInto(dialog->form().txtCustomFilterName, QStringLiteral("spam"));
+            clickButton(dialog->form().cmdCustomCreateFilter);
+            clickButton(dialog->form().cmdCustomCreateFilter);
+        });
+        QCOMPARE(m_doc->AppSettings.customFilterCount, int16_t(2));
+        const auto after = copyOf(*m_doc);
+        QCOMPARE(undo()->text(), QStringLiteral("Undo Custom Filters"));
+        undoAndRedo(*before, *after);
+    }
+
+    void theShortcutsUndoAndRedo()
+    {
+        newProject(*m_window);
+        m_window->activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(m_window.get()));
+        clickTab(*m_window, 2);
+        const auto before = copyOf(*m_doc);
+        clickButton(m_window->form().cmdObjAdd);
+        const auto after = copyOf(*m_doc);
+        QWidget *list = m_window->objectList(2);
+        QTest::keyClick(list, Qt::Key_Z, Qt::ControlModifier);
+        QVERIFY(*m_doc == *before);
+        QTest::keyClick(list, Qt::Key_Y, Qt::ControlModifier);
+        QVERIFY(*m_doc == *after);
+        QTest::keyClick(list, Qt::Key_Z, Qt::ControlModifier);
+        QTest::keyClick(list, Qt::Key_Z, Qt::ControlModifier | Qt::ShiftModifier);
+        QVERIFY(*m_doc == *after);
+    }
+
     void aRunOfTypingInTheRootFolderBoxIsOneStep()
     {
         newProject(*m_window);
@@ -378,8 +414,8 @@ private slots:
         QCOMPARE(m_ui->messages.back().title, std::string("Load Error"));
         QCOMPARE(undo()->text(), QStringLiteral("Undo Open \"damaged.dvb\""));
         QCOMPARE(mark(), QStringLiteral("Unsaved changes"));
-        undo()->trigger();
-        QVERIFY(*m_doc == *before);
+        const auto after = copyOf(*m_doc);
+        undoAndRedo(*before, *after);
     }
 
     void saveRemovesNewObjectsAsAStepAndMarksTheDocumentSaved()
