@@ -243,6 +243,7 @@ private slots:
             window.history().cutStep({});
             scene.layers[1].objectId = "imgHero";
             window.history().cutStep("Move \"imgHero\"");
+            window.showList(Kind::Scene); // the hand-back, as the editor closes
         });
         clickTab(*m_window, 10);
         clickButton(m_window->form().cmdObjAdd);
@@ -490,6 +491,7 @@ private slots:
                 typeInto(dialog->findChild<QLineEdit *>(QStringLiteral("txtAppWindowPropsCaption")),
                          QStringLiteral("Other"));
             });
+        m_window->UpdateAppStats();
         QCOMPARE(m_window->form().lblAppStatsCaption->text(),
                  QStringLiteral("Window Caption: Other"));
         undo()->trigger();

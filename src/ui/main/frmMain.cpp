@@ -682,6 +682,7 @@ void frmMain::mnuUndo_Click()
     if (!m_history->canUndo())
         return;
     m_history->undo();
+    showRestoredDocument();
     documentChanged();
 }
 
@@ -691,6 +692,7 @@ void frmMain::mnuRedo_Click()
     if (!m_history->canRedo())
         return;
     m_history->redo();
+    showRestoredDocument();
     documentChanged();
 }
 
@@ -701,10 +703,16 @@ void frmMain::documentChanged()
         const QSignalBlocker blocker(m_ui.txtAppRootFolder);
         m_ui.txtAppRootFolder->setText(qs(m_doc.AppSettings.rootFolder));
     }
-    listsChanged();
-    showCurrentStats();
     showEditMenu();
     showUnsavedMark();
+}
+
+void frmMain::showRestoredDocument()
+{
+    // After a step its handler has shown the result as it always has (an editor's hand-back
+    // leaves the quick statistics as they were); after undo and redo everything is shown anew.
+    listsChanged();
+    showCurrentStats();
 }
 
 void frmMain::showCurrentStats()

@@ -84,9 +84,10 @@ public:
     History &history() { return *m_history; }
     // Runs `change` as one step named `name` and then calls documentChanged() when recorded.
     bool runStep(const std::string &name, const std::function<void()> &change);
-    // Called after every recorded step, undo and redo: refreshes lists, quick statistics, the
-    // root folder box, menus, the "Unsaved changes" mark; other features hook their refresh
-    // here.
+    // Called after every recorded step, undo and redo: refreshes the root folder box, the
+    // menus, the "Unsaved changes" mark (after undo and redo the lists and the quick
+    // statistics were shown anew just before; after a step its handler showed them); other
+    // features hook their refresh here.
     void documentChanged();
     // How the window asks the user; editors that report something use it too.
     UserInterface &userInterface() { return m_userInterface; }
@@ -133,6 +134,8 @@ private:
     void endSession(const std::string &name, std::size_t recordedBefore);
     // Ends the open run of typing in the root folder box, recording it.
     void endTypingRun();
+    // The lists and the selected tab's quick statistics after undo or redo.
+    void showRestoredDocument();
     void showEditMenu();
     void showUnsavedMark();
     // The quick statistics of the selected tab, as the document now holds them.
