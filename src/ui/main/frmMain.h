@@ -1,6 +1,7 @@
 #pragma once
 
 #include "generate/GenerateState.h"
+#include "history/History.h"
 #include "model/modGlobal.h"
 #include "project/Open.h"
 
@@ -11,7 +12,9 @@
 #include <array>
 #include <functional>
 #include <memory>
+#include <string>
 
+class QLabel;
 class QListWidget;
 
 namespace vorlane {
@@ -27,7 +30,7 @@ struct GenerateResult;
 struct QuickStats;
 
 // The main window: the tab strip with one page per kind of data, the object lists, the
-// quick statistics, the object buttons and the File and Help menus.
+// quick statistics, the object buttons and the File, Edit and Help menus.
 class frmMain : public QMainWindow
 {
     Q_OBJECT
@@ -44,6 +47,8 @@ public:
     void lstObjects_Click(int index);
     void lstObjects_DblClick(int index);
     void txtAppRootFolder_Change();
+    // The box lost the focus or Enter was pressed: the run of typing is one step.
+    void txtAppRootFolder_EditingFinished();
     void cmdObjAdd_Click();
     void cmdObjEdit_Click();
     void cmdObjRemove_Click();
@@ -57,6 +62,8 @@ public:
     void mnuExit_Click();
     void mnuOnlineHelp_Click();
     void mnuAbout_Click();
+    void mnuUndo_Click();
+    void mnuRedo_Click();
     // The settings and log filter dialogs of the application and log pages.
     void cmdAppWindowProps_Click();
     void cmdAppSoundProps_Click();
@@ -87,6 +94,15 @@ public:
     void setEditor(Kind kind, EditorOpener opener);
 
     Document &document() { return m_doc; }
+    // The undo and redo history of the document.
+    History &history() { return *m_history; }
+    // Runs `change` as one step named `name` and then calls documentChanged() when recorded.
+    bool runStep(const std::string &name, const std::function<void()> &change);
+    // Called after every recorded step, undo and redo: refreshes the root folder box, the
+    // menus, the "Unsaved changes" mark (after undo and redo the lists and the quick
+    // statistics were shown anew just before; after a step its handler showed them); other
+    // features hook their refresh here.
+    void documentChanged();
     // How the window asks the user; editors that report something use it too.
     UserInterface &userInterface() { return m_userInterface; }
     frmProgress &progress();
@@ -124,8 +140,26 @@ private:
     void listsChanged();
     // Opens `path` as the current project once it is chosen.
     OpenOutcome openChosen(const std::string &path);
-    // The document now equals its project file.
-    void markSaved();
+
+    // The steps around the handlers.
+    // Runs `change` as the step of New or Open; the first of a run begins the history instead.
+    void runProjectStep(const std::string &name, const std::function<void()> &change);
+    // Runs `write` (a Save or a Generate) and records the never-opened objects it took off the
+    // lists as a step of their own: the rest of the write is no step.
+    void recordRemovedNewObjects(const std::function<void()> &write);
+    // Closes the step a session opened (an editor's or a dialog's), named as it closes;
+    // `recordedBefore` is the history's count of recorded steps as the session began.
+    void endSession(const std::string &name, std::size_t recordedBefore);
+    // Ends the open run of typing in the root folder box, recording it.
+    void endTypingRun();
+    // The lists and the selected tab's quick statistics after undo or redo.
+    void showRestoredDocument();
+    void showEditMenu();
+    void showUnsavedMark();
+    // The quick statistics of the selected tab, as the document now holds them.
+    void showCurrentStats();
+    template<class Dialog, class... Args>
+    void runDialog(Args &&...args);
 
     Ui::frmMain m_ui;
     Document &m_doc;
@@ -140,7 +174,9 @@ private:
     std::array<EditorOpener, KindCount> m_editors;
     std::function<bool(const QUrl &)> m_openUrl;
     GenerateState m_generateState;
-    std::unique_ptr<Document> m_saved; // the document as last saved, opened or made
+    std::unique_ptr<History> m_history;
+    QLabel *m_unsavedMark = nullptr;
+    bool m_typingRun = false; // a run of typing in the root folder box is an open step
     RecoveryKeeper *m_recovery = nullptr;
 };
 
