@@ -296,12 +296,10 @@ void frmMain::mnuNew_Click()
                                          "Save Data",
                                          MessageIcon::Question,
                                          MessageButtons::YesNo});
-        if (answer == MessageAnswer::Yes) {
-            if (!m_doc.ProjectInfo.projectFilePath.empty())
-                mnuSave_Click();
-            else
-                mnuSaveAs_Click();
-        }
+        // Save runs Save As for a project without a file. A save that did not happen (it
+        // failed, or was cancelled at its dialog or its warning) stops New, as it stops Exit.
+        if (answer == MessageAnswer::Yes && !saveProject())
+            return;
     }
     frmDataProjName dialog(this);
     if (dialog.exec() != QDialog::Accepted)
