@@ -3,6 +3,7 @@
 #include "io/ChunkSink.h"
 #include "io/FileOps.h"
 
+#include <functional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -20,13 +21,29 @@ struct FileWriteResult
     // What of the previous file could not be carried over to the new one, one sentence end
     // each: "its owner could not be kept: Operation not permitted".
     std::vector<std::string> notKept;
+    // The new file as written (its device, inode, size and time of change), when it was.
+    PathInfo written;
+    // The extra name the replaced file was kept under (keepReplacedAs), when it was.
+    std::string keptAs;
 };
 
 // How a safe write treats the file it replaces.
 struct SafeWriteOptions
 {
+    SafeWriteOptions() = default;
+    SafeWriteOptions(int keep)
+        : backups(keep)
+    {}
+
     // Previous versions kept beside the file as NAME.bak1 (the newest) to NAME.bakN.
     int backups = 0;
+    // When set, an existing file that is not empty is replaced only when this accepts its
+    // first bytes (up to 1 MiB), returning ""; otherwise the write is refused, the reason
+    // being the words returned after "it": "is not a Vorlane project file...".
+    std::function<std::string(std::string_view start)> refuseReplacing;
+    // When not empty, the file replaced is also kept under this name (or this name followed
+    // by "-2", "-3"... when it is taken), which no later save moves or drops.
+    std::string keepReplacedAs;
 };
 
 // The number of previous versions a project Save keeps.
