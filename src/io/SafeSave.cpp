@@ -296,7 +296,11 @@ bool resolveSaveTarget(const std::string &path,
 
 std::string backupName(const std::string &path, int number)
 {
-    const std::string suffix = ".bak" + std::to_string(number);
+    return nameBeside(path, ".bak" + std::to_string(number));
+}
+
+std::string nameBeside(const std::string &path, const std::string &suffix)
+{
     const size_t nameStart = nameStartOf(path);
     const size_t room = NameLimit - suffix.size();
     return path.substr(0, nameStart) +

@@ -79,6 +79,9 @@ bool resolveSaveTarget(const std::string &path,
 // long for the folder is shortened so that the whole stays within 255 bytes.
 std::string backupName(const std::string &path, int number);
 
+// `path` followed by `suffix`, the name cut so that the whole stays within 255 bytes.
+std::string nameBeside(const std::string &path, const std::string &suffix);
+
 // The longest file name a folder takes, in bytes.
 inline constexpr std::size_t NameLimit = 255;
 
