@@ -6,6 +6,7 @@
 #include "ObjectListView.h"
 #include "QuickStatsView.h"
 #include "ProblemsPanel.h"
+#include "ProjectFileWatcher.h"
 #include "io/SystemFileOps.h"
 #include "project/ProjectCheck.h"
 #include "generate/GenerateCommands.h"
@@ -76,6 +77,11 @@ frmMain::frmMain(Document &doc, UserInterface &userInterface, QWidget *parent)
     m_ui.fraAppStats->setVisible(false);
     m_problemsPanel = new ProblemsPanel(this);
     addDockWidget(Qt::BottomDockWidgetArea, m_problemsPanel);
+    m_fileWatcher = new ProjectFileWatcher(
+        [this](const std::string &line, const std::string &replaced) {
+            showFileChange(line, replaced);
+        },
+        this);
     setUpTabs();
     connectHandlers();
     Form_Load();
@@ -305,6 +311,7 @@ void frmMain::mnuNew_Click()
     if (dialog.exec() != QDialog::Accepted)
         return;
     setUpNewProject(m_doc, dialog.name().toStdString());
+    m_fileWatcher->opened({}); // a new project has no file yet
     projectOpened();
     for (Kind kind : ListOrder)
         showList(kind);
@@ -332,6 +339,7 @@ void frmMain::mnuOpen_Click()
     const OpenOutcome outcome = Open(m_doc, *path, m_userInterface, progress());
     m_ui.txtAppRootFolder->setText(qs(m_doc.AppSettings.rootFolder));
     listsChanged();
+    m_fileWatcher->opened(outcome.opened() ? projectSavePath(m_doc) : std::string());
     if (!outcome.opened())
         return;
     // A project that was already open keeps its caption: only the first Open of a run sets it.
@@ -355,8 +363,7 @@ bool frmMain::saveProject()
 {
     if (m_doc.ProjectInfo.projectFilePath.empty())
         return saveProjectAs();
-    const SaveResult result =
-        vorlane::saveProject(m_doc, m_userInterface, progress(), systemFileOps());
+    const SaveResult result = writeProject(false);
     listsChanged();
     if (result.written())
         showSaveProblems(result.notices);
@@ -376,13 +383,33 @@ bool frmMain::saveProjectAs()
         return false;
     // A name typed without an extension gets ".dvb", so that Open's filter shows the file.
     recordChosenPath(m_doc, withProjectExtension(*path));
-    const SaveResult result =
-        vorlane::saveProject(m_doc, m_userInterface, progress(), systemFileOps());
+    const SaveResult result = writeProject(true);
     listsChanged();
     m_ui.mnuSave->setEnabled(true);
     if (result.written())
         showSaveProblems(result.notices);
     return result.written();
+}
+
+SaveResult frmMain::writeProject(bool fileChosen)
+{
+    const std::string path = projectSavePath(m_doc);
+    SaveOptions options;
+    options.fileChosen = fileChosen;
+    options.keepTheirsAs = m_fileWatcher->theirsName(path);
+    m_fileWatcher->setSaving(true);
+    SaveResult result =
+        vorlane::saveProject(m_doc, m_userInterface, progress(), systemFileOps(), options);
+    m_fileWatcher->setSaving(false);
+    if (result.written())
+        m_fileWatcher->saved(path, result.file);
+    return result;
+}
+
+void frmMain::showFileChange(const std::string &line, const std::string &replaced)
+{
+    m_problemsPanel->addProblem(
+        QStringLiteral("The project file was changed on disk."), line, replaced);
 }
 
 void frmMain::showSaveProblems(const std::vector<std::string> &notices)
