@@ -170,7 +170,7 @@ FileWriteResult writeThroughTemporary(const std::string &path,
     PathInfo previous;
     if (const int error = ops.inspect(target, previous); error != 0)
         return failed(errorText(error), target);
-    const bool replacing = previous.type == PathInfo::Type::Regular;
+    bool replacing = previous.type == PathInfo::Type::Regular;
     if (previous.type != PathInfo::Type::Missing && !replacing)
         return failed(subject + " is " + typeName(previous.type) + ", not a regular file", target);
     if (replacing && !previous.writable)
@@ -217,9 +217,11 @@ FileWriteResult writeThroughTemporary(const std::string &path,
     ops.inspect(temporary, result.written);
 
     // Another save of the same file waits here until this one has moved its backups on, so
-    // that each keeps the version it replaces.
+    // that each keeps the version it replaces. The file is looked at again once the lock is
+    // held: another save may have put it there, or replaced it, meanwhile.
     int lockHandle = -1;
-    if (replacing)
+    PathInfo current;
+    if (ops.inspect(target, current) == 0 && current.type == PathInfo::Type::Regular)
         ops.lock(target, lockHandle);
     struct Unlock
     {
@@ -227,38 +229,45 @@ FileWriteResult writeThroughTemporary(const std::string &path,
         int handle;
         ~Unlock() { ops.unlock(handle); }
     } unlock{ops, lockHandle};
+    if (ops.inspect(target, current) == 0)
+        replacing = current.type == PathInfo::Type::Regular;
 
-    // From the second name of the previous file to its place among the backups, a signal
-    // waits: the previous version is then always the file or a backup, never a hidden name.
-    SignalHold hold;
-    std::string staged;
-    if (replacing && options.backups > 0) {
-        staged = hiddenNameFor(target, "backup", random);
-        if (const int linkError = ops.link(target, staged); linkError != 0) {
-            result.notKept.push_back("no backup of its previous version could be made: " +
-                                     errorText(linkError));
-            staged.clear();
+    {
+        // From the second name of the previous file to its place among the backups, a signal
+        // waits: the previous version is then always the file or a backup, never a hidden
+        // name.
+        SignalHold hold;
+        std::string staged;
+        if (replacing && options.backups > 0) {
+            staged = hiddenNameFor(target, "backup", random);
+            if (const int linkError = ops.link(target, staged); linkError != 0) {
+                result.notKept.push_back("no backup of its previous version could be made: " +
+                                         errorText(linkError));
+                staged.clear();
+            }
         }
-    }
-    std::string theirs;
-    if (replacing && !options.keepReplacedAs.empty())
-        theirs = keepUnder(ops, target, options.keepReplacedAs);
-    error = ops.rename(temporary, target);
-    if (error != 0) {
-        ops.remove(temporary);
+        std::string theirs;
+        if (replacing && !options.keepReplacedAs.empty())
+            theirs = keepUnder(ops, target, options.keepReplacedAs);
+        error = ops.rename(temporary, target);
+        if (error != 0) {
+            ops.remove(temporary);
+            if (!staged.empty())
+                ops.remove(staged);
+            if (!theirs.empty())
+                ops.remove(theirs);
+            return failed(errorText(error), target);
+        }
+        guard.release();
+        result.keptAs = theirs;
+        if (replacing && !options.keepReplacedAs.empty() && theirs.empty())
+            result.notKept.push_back("the version it replaced could not be kept as \"" +
+                                     options.keepReplacedAs + "\"");
         if (!staged.empty())
-            ops.remove(staged);
-        if (!theirs.empty())
-            ops.remove(theirs);
-        return failed(errorText(error), target);
+            keepBackup(ops, target, staged, options.backups, result);
     }
-    guard.release();
-    result.keptAs = theirs;
-    if (replacing && !options.keepReplacedAs.empty() && theirs.empty())
-        result.notKept.push_back("the version it replaced could not be kept as \"" +
-                                 options.keepReplacedAs + "\"");
-    if (!staged.empty())
-        keepBackup(ops, target, staged, options.backups, result);
+    ops.unlock(lockHandle);
+    unlock.handle = -1;
     ops.syncFolder(folderOf(target));
     return result;
 }
