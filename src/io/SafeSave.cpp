@@ -6,6 +6,7 @@
 
 #include <algorithm>
 #include <cerrno>
+#include <optional>
 #include <random>
 #include <system_error>
 
@@ -186,13 +187,22 @@ FileWriteResult writeThroughTemporary(const std::string &path,
     std::string temporary;
     int handle = -1;
     int error = EEXIST;
-    for (int attempt = 0; attempt < 100 && error == EEXIST; ++attempt) {
-        temporary = hiddenNameFor(target, "saving", random);
-        error = ops.createNew(temporary, target, handle);
+    std::optional<TemporaryFileGuard> guard;
+    {
+        // The guard, and with it the handler, is there before the file: a signal that comes
+        // meanwhile waits until the file is created, so that the handler, wherever it runs,
+        // finds every temporary file there is (and no other file under a name tried).
+        SignalHold hold;
+        for (int attempt = 0; attempt < 100 && error == EEXIST; ++attempt) {
+            temporary = hiddenNameFor(target, "saving", random);
+            guard.emplace(temporary);
+            error = ops.createNew(temporary, target, handle);
+        }
+        if (error != 0) {
+            guard.reset();
+            return failed(errorText(error), target);
+        }
     }
-    if (error != 0)
-        return failed(errorText(error), target);
-    TemporaryFileGuard guard(temporary);
 
     if (replacing)
         keepAttributes(ops, handle, previous, result);
@@ -258,7 +268,7 @@ FileWriteResult writeThroughTemporary(const std::string &path,
                 ops.remove(theirs);
             return failed(errorText(error), target);
         }
-        guard.release();
+        guard->release();
         result.keptAs = theirs;
         if (replacing && !options.keepReplacedAs.empty() && theirs.empty())
             result.notKept.push_back("the version it replaced could not be kept as \"" +

@@ -15,7 +15,8 @@ public:
     SignalHold(const SignalHold &) = delete;
     SignalHold &operator=(const SignalHold &) = delete;
 
-    // Waits until no SignalHold lives in any thread; safe to call in a signal handler.
+    // For a handler that ends the program: waits until no SignalHold lives in any thread,
+    // and lets none begin any more (one that would waits for the end). Safe in a handler.
     static void waitForRelease();
 };
 

@@ -6,9 +6,12 @@
 #include <gtest/gtest.h>
 
 #include <csignal>
+#include <optional>
+#include <thread>
 #include <string>
 #include <vector>
 
+#include <pthread.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
@@ -27,6 +30,8 @@ class SignalAtCall : public FailingFileOps
 public:
     int signalAt = -1;
     int calls = 0;
+    // When set, the signal goes to this thread instead: its handler then runs beside the save.
+    std::optional<pthread_t> receiver;
 
     int createNew(const std::string &path, const std::string &modelPath, int &handle) override
     {
@@ -77,7 +82,11 @@ public:
 private:
     void step()
     {
-        if (++calls == signalAt)
+        if (++calls != signalAt)
+            return;
+        if (receiver)
+            ::pthread_kill(*receiver, SIGTERM);
+        else
             ::kill(::getpid(), SIGTERM);
     }
 };
@@ -103,7 +112,10 @@ void prepare(const std::string &path)
         writeBytes(backupName(path, number), Before[static_cast<size_t>(number)]);
 }
 
-TEST(BackupInterrupted, ASigtermAtAnyStepOfASaveLosesNoVersion)
+// Saves with a SIGTERM before each file call in turn, each in a child process, and checks
+// what is left; `otherThread` has the signal handled in a second thread, as in the editor,
+// whose windowing system runs threads of its own.
+void expectNoVersionLostAtAnyStep(bool otherThread)
 {
     // How many file calls a save with three backups makes.
     int steps = 0;
@@ -130,6 +142,17 @@ TEST(BackupInterrupted, ASigtermAtAnyStepOfASaveLosesNoVersion)
         if (child == 0) {
             SignalAtCall ops;
             ops.signalAt = at;
+            if (otherThread) {
+                std::thread receiver([] {
+                    for (;;)
+                        ::pause();
+                });
+                ops.receiver = receiver.native_handle();
+                receiver.detach();
+                writeFileSafely(path, New, ops, SafeWriteOptions{3});
+                for (;;)
+                    ::pause(); // the handler in the other thread ends the process
+            }
             writeFileSafely(path, New, ops, SafeWriteOptions{3});
             ::_exit(0); // reached only when the signal did not end the process
         }
@@ -151,6 +174,16 @@ TEST(BackupInterrupted, ASigtermAtAnyStepOfASaveLosesNoVersion)
         if (testing::Test::HasFailure())
             return; // one step's report is enough
     }
+}
+
+TEST(BackupInterrupted, ASigtermAtAnyStepOfASaveLosesNoVersion)
+{
+    expectNoVersionLostAtAnyStep(false);
+}
+
+TEST(BackupInterrupted, ASigtermHandledInAnotherThreadAtAnyStepLosesNoVersion)
+{
+    expectNoVersionLostAtAnyStep(true);
 }
 
 } // namespace
