@@ -5,6 +5,7 @@
 #include <cstdint>
 #include <limits>
 #include <string>
+#include <string_view>
 #include <tuple>
 
 // The lines of a project file, field by field. The writer and the reader both walk these
@@ -53,6 +54,10 @@ constexpr IntField<Rec, int16_t> count(const char *name, int16_t Rec::*member, i
 {
     return {name, member, 0, max};
 }
+
+// The byte order mark that begins a project file written in UTF-8; a file without it is
+// Windows-1252, as every file was before UTF-8 was needed.
+inline constexpr std::string_view Utf8Mark = "\xEF\xBB\xBF";
 
 inline constexpr int MaxCustomFilters = CustomFilterSlots - 1; // the reader fills slots 1..50
 

@@ -34,9 +34,10 @@ std::string joined(std::string_view a, std::string_view b, std::string_view c = 
 class FieldReader
 {
 public:
-    explicit FieldReader(std::string_view bytes)
+    FieldReader(std::string_view bytes, bool utf8)
         : m_pos(bytes.data())
         , m_end(bytes.data() + bytes.size())
+        , m_utf8(utf8)
     {}
 
     void text(std::string &out, const char *name)
@@ -66,7 +67,11 @@ public:
             out.assign(begin, p);
         } else {
             out.clear();
-            appendUtf8(out, std::string_view(begin, static_cast<size_t>(p - begin)));
+            const std::string_view bytes(begin, static_cast<size_t>(p - begin));
+            if (m_utf8)
+                appendCleanUtf8(out, bytes);
+            else
+                appendUtf8(out, bytes);
         }
         m_pos = p + 1;
         endField(name);
@@ -203,6 +208,7 @@ private:
 
     const char *m_pos;
     const char *m_end;
+    bool m_utf8;
     int m_line = 1;
 };
 
@@ -393,7 +399,11 @@ ProjectReadResult readProject(std::string_view bytes, Document &doc, ProgressSin
 {
     if (bytes.empty())
         return {ProjectReadResult::Status::Empty, 0, {}};
-    FieldReader in(bytes);
+    // A file that begins with the byte order mark is UTF-8; any other is Windows-1252.
+    const bool utf8 = bytes.starts_with(layout::Utf8Mark);
+    if (utf8)
+        bytes.remove_prefix(layout::Utf8Mark.size());
+    FieldReader in(bytes, utf8);
     try {
         readDocument(in, doc, progress);
     } catch (Damage &damage) {
@@ -410,11 +420,12 @@ ProjectReadResult readProject(std::string_view bytes, Document &doc)
 
 bool beginsAsProjectFile(std::string_view start)
 {
-    // A project file that holds characters beyond Windows-1252 may begin with the UTF-8 byte
+    // A project file that holds characters beyond Windows-1252 begins with the UTF-8 byte
     // order mark.
-    if (start.starts_with("\xEF\xBB\xBF"))
-        start.remove_prefix(3);
-    FieldReader in(start);
+    const bool utf8 = start.starts_with(layout::Utf8Mark);
+    if (utf8)
+        start.remove_prefix(layout::Utf8Mark.size());
+    FieldReader in(start, utf8);
     ProjectInfoRec info;
     std::array<int16_t, KindCount> counts{};
     try {

@@ -21,9 +21,10 @@ struct ProjectReadResult
     std::string message; // Damaged: what was expected there ("a number was expected for x")
 };
 
-// Reads the project file `bytes` (Windows-1252, CR LF or LF line ends) into `doc` and appends
-// each object's id to its list, with the slot as the line's item data. The document is not
-// cleared first. Reports the "Loading ..." labels and one step per object to `progress`.
+// Reads the project file `bytes` (UTF-8 when it begins with the byte order mark EF BB BF, a
+// malformed sequence's bytes read as "?"; Windows-1252 otherwise; CR LF or LF line ends) into `doc`
+// and appends each object's id to its list, with the slot as the line's item data. The document is
+// not cleared first. Reports the "Loading ..." labels and one step per object to `progress`.
 //
 // The reader is field-oriented: a comma, a line end (CR LF or LF) and the end of the file
 // all end a field. A text field is a double quote, any bytes other than a double quote, CR

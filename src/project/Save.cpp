@@ -55,8 +55,7 @@ SaveResult saveProject(Document &doc,
         };
     }
     write.keepReplacedAs = options.keepTheirsAs;
-    FileWriteResult written = writeFileSafely(
-        path, [&](ChunkSink &sink) { writeProjectFile(doc, progress, sink); }, ops, write);
+    FileWriteResult written = writeFileSafely(path, projectFileBytes(doc, progress), ops, write);
     progress.end();
 
     if (!written.ok) {

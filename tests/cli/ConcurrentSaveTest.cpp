@@ -34,7 +34,7 @@ std::string projectBytes(const std::string &name, const std::string &out)
     doc->ProjectInfo.projectName = name;
     listFullSprites(*doc, 4, 1);
     recordChosenPath(*doc, out);
-    return projectFileBytes(*doc).str();
+    return projectFileBytes(*doc);
 }
 
 TEST(ConcurrentSaves, ThirtyConvertsOntoOneFileLeaveWholeVersionsAndNoHiddenFile)

@@ -8,6 +8,7 @@
 #include <gtest/gtest.h>
 
 #include <numeric>
+#include <array>
 #include <random>
 
 namespace vorlane {
@@ -17,13 +18,15 @@ using namespace testsupport;
 
 // Builds random but consistent projects: every count matches its used slots, and texts hold
 // no double quote, CR or LF. `stable` keeps out what a reload changes on purpose (a hot spot's
-// cursor, a splashEnabled other than 0 or 1).
+// cursor, a splashEnabled other than 0 or 1). With `foreign`, a text may also hold characters
+// that Windows-1252 cannot hold, which makes the file UTF-8.
 class RandomProject
 {
 public:
-    RandomProject(unsigned seed, bool stable)
+    RandomProject(unsigned seed, bool stable, bool foreign = false)
         : m_random(seed)
         , m_stable(stable)
+        , m_foreign(foreign)
     {}
 
     std::unique_ptr<Document> make()
@@ -68,7 +71,13 @@ private:
                 byte = '\t';
             bytes.push_back(static_cast<char>(byte));
         }
-        return toUtf8(bytes);
+        std::string utf8 = toUtf8(bytes);
+        if (m_foreign && chance(10)) {
+            static const std::array<std::string, 5> Foreign{"Ж", "я", "日本", "😀", "中"};
+            utf8.insert(static_cast<size_t>(below(static_cast<int>(utf8.size()) + 1)),
+                        Foreign[static_cast<size_t>(below(Foreign.size()))]);
+        }
+        return utf8;
     }
 
     // `count` distinct slots out of `size`, in random order.
@@ -262,12 +271,13 @@ private:
 
     std::mt19937 m_random;
     bool m_stable;
+    bool m_foreign;
 };
 
 std::string save(Document &doc)
 {
     removeNewObjects(doc);
-    return projectFileBytes(doc).str();
+    return projectFileBytes(doc);
 }
 
 std::string reopenAndSave(const std::string &bytes)
@@ -285,6 +295,18 @@ TEST(ProjectRoundTrip, SaveOpenSaveIsByteIdenticalOnRandomProjects)
         const std::string first = save(*doc);
         ASSERT_EQ(reopenAndSave(first), first) << "seed " << seed;
     }
+}
+
+TEST(ProjectRoundTrip, SaveOpenSaveIsByteIdenticalOnRandomProjectsWrittenInUtf8)
+{
+    int utf8 = 0;
+    for (unsigned seed = 301; seed <= 400; ++seed) {
+        auto doc = RandomProject(seed, true, true).make();
+        const std::string first = save(*doc);
+        utf8 += first.starts_with("\xEF\xBB\xBF") ? 1 : 0;
+        ASSERT_EQ(reopenAndSave(first), first) << "seed " << seed;
+    }
+    EXPECT_GT(utf8, 50);
 }
 
 TEST(ProjectRoundTrip, ASecondReloadChangesNothingMore)

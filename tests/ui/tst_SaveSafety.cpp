@@ -89,7 +89,7 @@ private slots:
         downloaded->ProjectInfo.projectName = "Downloaded";
         downloaded->ProjectInfo.projectFilePath = notes.toStdString();
         const QString game = path(QStringLiteral("game.dvb"));
-        QVERIFY(writeAll(game, QByteArray::fromStdString(projectFileBytes(*downloaded).str())));
+        QVERIFY(writeAll(game, QByteArray::fromStdString(projectFileBytes(*downloaded))));
         m_ui->fileChoices = {game.toStdString()};
         m_window->form().mnuOpen->trigger();
         QCOMPARE(m_doc->ProjectInfo.projectFilePath, notes.toStdString());

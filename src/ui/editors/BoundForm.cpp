@@ -1,5 +1,7 @@
 #include "BoundForm.h"
 
+#include "TextLength.h"
+
 #include <QApplication>
 #include <QCheckBox>
 #include <QComboBox>
@@ -59,6 +61,8 @@ void BoundForm::Form_Load()
 
 void BoundForm::fillControls()
 {
+    // Before any box is filled, so that none cuts its field's text.
+    allowAnyLength(this);
     for (const auto &binding : m_bindings)
         binding->fill();
 }

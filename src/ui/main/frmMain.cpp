@@ -25,6 +25,7 @@
 #include "frmLogCustom.h"
 #include "frmLogFile.h"
 #include "frmLogType.h"
+#include "TextLength.h"
 
 #include <QCloseEvent>
 #include <QCoreApplication>
@@ -64,6 +65,7 @@ frmMain::frmMain(Document &doc, UserInterface &userInterface, QWidget *parent)
     , m_openUrl([](const QUrl &url) { return QDesktopServices::openUrl(url); })
 {
     m_ui.setupUi(this);
+    allowAnyLength(this);
     for (int tab = 0; tab <= TabCount; ++tab)
         m_tabs[static_cast<size_t>(tab)] =
             findChild<QFrame *>(QStringLiteral("fraTab_%1").arg(tab));
