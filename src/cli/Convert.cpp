@@ -35,7 +35,11 @@ int runConvert(const std::vector<std::string> &args, std::ostream & /*out*/, std
         return ExitFailure;
 
     recordChosenPath(*doc, outPath); // as Save As records the chosen file
-    const SaveResult saved = saveProject(*doc, ui, quiet, systemFileOps());
+    // OUT was named on the command line, as a file is chosen in Save As: it may be replaced
+    // whatever it holds, and is kept as OUT.bak1.
+    SaveOptions options;
+    options.fileChosen = true;
+    const SaveResult saved = saveProject(*doc, ui, quiet, systemFileOps(), options);
     if (!saved.written()) {
         err << "vorlane-cli: " << outPath << ": " << saved.reason << "\n";
         return ExitFailure;

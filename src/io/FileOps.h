@@ -18,6 +18,7 @@ struct PathInfo
     unsigned long long inode = 0;
     bool writable = false; // the running user may write it, and some write bit is set
     long long size = 0;
+    long long modifiedNs = 0; // the time of the last change of its bytes, in nanoseconds
 };
 
 // The operating-system calls behind reading and safely saving a project file. The program
@@ -30,6 +31,13 @@ public:
 
     // Reads the whole file at `path` into `bytes`.
     virtual int readAll(const std::string &path, std::string &bytes) = 0;
+    // Reads the first `limit` bytes of the regular file `path` (all of a shorter one).
+    virtual int readStart(const std::string &path, std::size_t limit, std::string &bytes) = 0;
+    // Takes the exclusive lock that every save of the file `path` takes, waiting a while for
+    // another holder; `handle` is then for unlock, or -1 when no lock could be had (a file
+    // that cannot be opened for reading, a holder that keeps it): the caller goes on without.
+    virtual void lock(const std::string &path, int &handle) = 0;
+    virtual void unlock(int handle) = 0;
     // Creates the file `path`, which must not exist yet, for writing. When `modelPath` names
     // an existing file the new one is readable by its owner only, until setMode gives it the
     // model's permissions: a failure there must not leave it more open than the model.

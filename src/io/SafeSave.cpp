@@ -1,5 +1,6 @@
 #include "io/SafeSave.h"
 
+#include "io/SignalHold.h"
 #include "io/TemporaryFileGuard.h"
 
 #include <algorithm>
@@ -84,6 +85,29 @@ void keepAttributes(FileOps &ops, int handle, const PathInfo &previous, FileWrit
         result.notKept.push_back("its permissions could not be kept: " + errorText(error));
 }
 
+FileWriteResult failed(std::string reason, const std::string &target)
+{
+    FileWriteResult result;
+    result.ok = false;
+    result.reason = std::move(reason);
+    result.target = target;
+    return result;
+}
+
+// Renames `from` over `to`. When both are names of one file the system does nothing, so the
+// second name, whose version `to` holds, goes: no extra name of a version stays behind.
+int moveOver(FileOps &ops, const std::string &from, const std::string &to)
+{
+    if (const int error = ops.rename(from, to); error != 0)
+        return error;
+    PathInfo left;
+    PathInfo kept;
+    if (ops.inspect(from, left) == 0 && left.type == PathInfo::Type::Regular &&
+        ops.inspect(to, kept) == 0 && left.device == kept.device && left.inode == kept.inode)
+        ops.remove(from);
+    return 0;
+}
+
 // Moves the backups one place on (the oldest is dropped) and makes `staged`, a second name of
 // the previous file, the newest.
 void keepBackup(FileOps &ops,
@@ -96,15 +120,33 @@ void keepBackup(FileOps &ops,
         PathInfo older;
         const std::string from = backupName(target, number - 1);
         if (ops.inspect(from, older) == 0 && older.type == PathInfo::Type::Regular)
-            ops.rename(from, backupName(target, number));
+            moveOver(ops, from, backupName(target, number));
     }
     const std::string newest = backupName(target, 1);
-    if (const int error = ops.rename(staged, newest); error != 0) {
+    if (const int error = moveOver(ops, staged, newest); error != 0) {
         ops.remove(staged);
         result.notKept.push_back("its previous version could not be kept as \"" + newest +
                                  "\": " + errorText(error));
     }
 }
+
+// Gives the file `target` the second name `wanted`, or `wanted` followed by "-2", "-3"... when
+// that name is taken; returns the name given, or "" when none could be.
+std::string keepUnder(FileOps &ops, const std::string &target, const std::string &wanted)
+{
+    for (int number = 1; number < 100; ++number) {
+        const std::string name = number == 1 ? wanted : wanted + "-" + std::to_string(number);
+        const int error = ops.link(target, name);
+        if (error == 0)
+            return name;
+        if (error != EEXIST)
+            return {};
+    }
+    return {};
+}
+
+// The bytes at the start of a file that a refuseReplacing check is given.
+constexpr std::size_t ReplaceCheckBytes = std::size_t{1} << 20;
 
 // Creates the temporary file, writes `bytes` to it, forces it to the device and renames it
 // over the target; on any failure the temporary file is removed.
@@ -126,24 +168,39 @@ FileWriteResult writeThroughTemporary(const std::string &path,
 
     PathInfo previous;
     if (const int error = ops.inspect(target, previous); error != 0)
-        return {false, errorText(error), target, {}};
-    const bool replacing = previous.type == PathInfo::Type::Regular;
+        return failed(errorText(error), target);
+    bool replacing = previous.type == PathInfo::Type::Regular;
     if (previous.type != PathInfo::Type::Missing && !replacing)
-        return {
-            false, subject + " is " + typeName(previous.type) + ", not a regular file", target, {}};
+        return failed(subject + " is " + typeName(previous.type) + ", not a regular file", target);
     if (replacing && !previous.writable)
-        return {false, subject + " is read-only", target, {}};
+        return failed(subject + " is read-only", target);
+    if (replacing && previous.size > 0 && options.refuseReplacing) {
+        std::string start;
+        if (const int error = ops.readStart(target, ReplaceCheckBytes, start); error != 0)
+            return failed(errorText(error), target);
+        if (std::string refusal = options.refuseReplacing(start); !refusal.empty())
+            return failed(subject + " " + refusal, target);
+    }
 
     std::string temporary;
     int handle = -1;
     int error = EEXIST;
-    for (int attempt = 0; attempt < 100 && error == EEXIST; ++attempt) {
-        temporary = hiddenNameFor(target, "saving", random);
-        error = ops.createNew(temporary, target, handle);
+    std::optional<TemporaryFileGuard> guard;
+    {
+        // The guard, and with it the handler, is there before the file: a signal that comes
+        // meanwhile waits until the file is created, so that the handler, wherever it runs,
+        // finds every temporary file there is (and no other file under a name tried).
+        SignalHold hold;
+        for (int attempt = 0; attempt < 100 && error == EEXIST; ++attempt) {
+            temporary = hiddenNameFor(target, "saving", random);
+            guard.emplace(temporary);
+            error = ops.createNew(temporary, target, handle);
+        }
+        if (error != 0) {
+            guard.reset();
+            return failed(errorText(error), target);
+        }
     }
-    if (error != 0)
-        return {false, errorText(error), target, {}};
-    TemporaryFileGuard guard(temporary);
 
     if (replacing)
         keepAttributes(ops, handle, previous, result);
@@ -154,31 +211,65 @@ FileWriteResult writeThroughTemporary(const std::string &path,
     if (error == 0)
         error = closeError;
 
-    // The previous file gets a second name before it is replaced, so that it is never gone
-    // before the new one is in place; the name becomes the newest backup only after that.
-    std::string staged;
-    std::optional<TemporaryFileGuard> stagedGuard;
-    if (error == 0 && replacing && options.backups > 0) {
-        staged = hiddenNameFor(target, "backup", random);
-        if (const int linkError = ops.link(target, staged); linkError != 0) {
-            result.notKept.push_back("no backup of its previous version could be made: " +
-                                     errorText(linkError));
-            staged.clear();
-        } else {
-            stagedGuard.emplace(staged);
-        }
-    }
-    if (error == 0)
-        error = ops.rename(temporary, target);
     if (error != 0) {
         ops.remove(temporary);
-        if (!staged.empty())
-            ops.remove(staged);
-        return {false, errorText(error), target, {}};
+        return failed(errorText(error), target);
     }
-    guard.release();
-    if (!staged.empty())
-        keepBackup(ops, target, staged, options.backups, result);
+    // What the file now holds, as a later look at it finds it: a rename keeps all of this.
+    ops.inspect(temporary, result.written);
+
+    // Another save of the same file waits here until this one has moved its backups on, so
+    // that each keeps the version it replaces. The file is looked at again once the lock is
+    // held: another save may have put it there, or replaced it, meanwhile.
+    int lockHandle = -1;
+    PathInfo current;
+    if (ops.inspect(target, current) == 0 && current.type == PathInfo::Type::Regular)
+        ops.lock(target, lockHandle);
+    struct Unlock
+    {
+        FileOps &ops;
+        int handle;
+        ~Unlock() { ops.unlock(handle); }
+    } unlock{ops, lockHandle};
+    if (ops.inspect(target, current) == 0)
+        replacing = current.type == PathInfo::Type::Regular;
+
+    {
+        // From the second name of the previous file to its place among the backups, a signal
+        // waits: the previous version is then always the file or a backup, never a hidden
+        // name.
+        SignalHold hold;
+        std::string staged;
+        if (replacing && options.backups > 0) {
+            staged = hiddenNameFor(target, "backup", random);
+            if (const int linkError = ops.link(target, staged); linkError != 0) {
+                result.notKept.push_back("no backup of its previous version could be made: " +
+                                         errorText(linkError));
+                staged.clear();
+            }
+        }
+        std::string theirs;
+        if (replacing && !options.keepReplacedAs.empty())
+            theirs = keepUnder(ops, target, options.keepReplacedAs);
+        error = ops.rename(temporary, target);
+        if (error != 0) {
+            ops.remove(temporary);
+            if (!staged.empty())
+                ops.remove(staged);
+            if (!theirs.empty())
+                ops.remove(theirs);
+            return failed(errorText(error), target);
+        }
+        guard->release();
+        result.keptAs = theirs;
+        if (replacing && !options.keepReplacedAs.empty() && theirs.empty())
+            result.notKept.push_back("the version it replaced could not be kept as \"" +
+                                     options.keepReplacedAs + "\"");
+        if (!staged.empty())
+            keepBackup(ops, target, staged, options.backups, result);
+    }
+    ops.unlock(lockHandle);
+    unlock.handle = -1;
     ops.syncFolder(folderOf(target));
     return result;
 }
@@ -216,7 +307,11 @@ bool resolveSaveTarget(const std::string &path,
 
 std::string backupName(const std::string &path, int number)
 {
-    const std::string suffix = ".bak" + std::to_string(number);
+    return nameBeside(path, ".bak" + std::to_string(number));
+}
+
+std::string nameBeside(const std::string &path, const std::string &suffix)
+{
     const size_t nameStart = nameStartOf(path);
     const size_t room = NameLimit - suffix.size();
     return path.substr(0, nameStart) +

@@ -2,6 +2,7 @@
 
 #include "io/FileOps.h"
 
+#include <functional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -19,13 +20,29 @@ struct FileWriteResult
     // What of the previous file could not be carried over to the new one, one sentence end
     // each: "its owner could not be kept: Operation not permitted".
     std::vector<std::string> notKept;
+    // The new file as written (its device, inode, size and time of change), when it was.
+    PathInfo written;
+    // The extra name the replaced file was kept under (keepReplacedAs), when it was.
+    std::string keptAs;
 };
 
 // How a safe write treats the file it replaces.
 struct SafeWriteOptions
 {
+    SafeWriteOptions() = default;
+    SafeWriteOptions(int keep)
+        : backups(keep)
+    {}
+
     // Previous versions kept beside the file as NAME.bak1 (the newest) to NAME.bakN.
     int backups = 0;
+    // When set, an existing file that is not empty is replaced only when this accepts its
+    // first bytes (up to 1 MiB), returning ""; otherwise the write is refused, the reason
+    // being the words returned after "it": "is not a Vorlane project file...".
+    std::function<std::string(std::string_view start)> refuseReplacing;
+    // When not empty, the file replaced is also kept under this name (or this name followed
+    // by "-2", "-3"... when it is taken), which no later save moves or drops.
+    std::string keepReplacedAs;
 };
 
 // The number of previous versions a project Save keeps.
@@ -52,6 +69,9 @@ bool resolveSaveTarget(const std::string &path,
 // The name of the `number`-th backup of `path` (1 the newest): "game.dvb.bak1"; a name too
 // long for the folder is shortened so that the whole stays within 255 bytes.
 std::string backupName(const std::string &path, int number);
+
+// `path` followed by `suffix`, the name cut so that the whole stays within 255 bytes.
+std::string nameBeside(const std::string &path, const std::string &suffix);
 
 // The longest file name a folder takes, in bytes.
 inline constexpr std::size_t NameLimit = 255;

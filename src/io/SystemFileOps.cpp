@@ -7,6 +7,8 @@
 #include <new>
 
 #include <fcntl.h>
+#include <poll.h>
+#include <sys/file.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -19,6 +21,10 @@ int closeKeepingError(int handle, int error)
     ::close(handle);
     return error;
 }
+
+// How long a save waits for another save of the same file: those hold the lock for a few
+// renames, so only a program that keeps it makes a save wait this long.
+constexpr int LockPatienceMs = 10000;
 
 } // namespace
 
@@ -82,6 +88,78 @@ int SystemFileOps::readAll(const std::string &path, std::string &bytes)
     return 0;
 }
 
+int SystemFileOps::readStart(const std::string &path, std::size_t limit, std::string &bytes)
+{
+    bytes.clear();
+    const int handle = ::open(path.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK);
+    if (handle < 0)
+        return errno;
+    struct stat info
+    {
+    };
+    if (::fstat(handle, &info) != 0)
+        return closeKeepingError(handle, errno);
+    if (!S_ISREG(info.st_mode))
+        return closeKeepingError(handle, NotARegularFile);
+    bytes.resize(limit);
+    std::size_t done = 0;
+    while (done < limit) {
+        const ssize_t n = ::read(handle, bytes.data() + done, limit - done);
+        if (n < 0 && errno == EINTR)
+            continue;
+        if (n < 0) {
+            const int error = errno;
+            bytes.clear();
+            return closeKeepingError(handle, error);
+        }
+        if (n == 0)
+            break;
+        done += static_cast<std::size_t>(n);
+    }
+    bytes.resize(done);
+    ::close(handle);
+    return 0;
+}
+
+void SystemFileOps::lock(const std::string &path, int &handle)
+{
+    handle = -1;
+    for (int waited = 0; waited < LockPatienceMs;) {
+        const int file = ::open(path.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK | O_NOFOLLOW);
+        if (file < 0)
+            return;
+        while (::flock(file, LOCK_EX | LOCK_NB) != 0 && waited < LockPatienceMs) {
+            if (errno != EWOULDBLOCK && errno != EINTR) {
+                ::close(file);
+                return;
+            }
+            ::poll(nullptr, 0, 2);
+            waited += 2;
+        }
+        // The lock counts only on the file the name still gives: another save may have put a
+        // new file there while this one waited on the old.
+        struct stat locked
+        {
+        };
+        struct stat named
+        {
+        };
+        if (::fstat(file, &locked) == 0 && ::stat(path.c_str(), &named) == 0 &&
+            locked.st_dev == named.st_dev && locked.st_ino == named.st_ino &&
+            waited < LockPatienceMs) {
+            handle = file;
+            return;
+        }
+        ::close(file);
+    }
+}
+
+void SystemFileOps::unlock(int handle)
+{
+    if (handle >= 0)
+        ::close(handle); // releases the lock
+}
+
 int SystemFileOps::createNew(const std::string &path, const std::string &modelPath, int &handle)
 {
     struct stat model
@@ -115,6 +193,8 @@ int SystemFileOps::inspect(const std::string &path, PathInfo &info)
     info.device = status.st_dev;
     info.inode = status.st_ino;
     info.size = status.st_size;
+    info.modifiedNs =
+        static_cast<long long>(status.st_mtim.tv_sec) * 1000000000LL + status.st_mtim.tv_nsec;
     // The administrator may write any file; a file without a write bit is still read-only.
     info.writable = (info.mode & 0222) != 0 && ::access(path.c_str(), W_OK) == 0;
     return 0;

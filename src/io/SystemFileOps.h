@@ -9,6 +9,9 @@ class SystemFileOps : public FileOps
 {
 public:
     int readAll(const std::string &path, std::string &bytes) override;
+    int readStart(const std::string &path, std::size_t limit, std::string &bytes) override;
+    void lock(const std::string &path, int &handle) override;
+    void unlock(int handle) override;
     int createNew(const std::string &path, const std::string &modelPath, int &handle) override;
     int inspect(const std::string &path, PathInfo &info) override;
     int readLink(const std::string &path, std::string &target) override;

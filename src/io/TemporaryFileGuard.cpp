@@ -1,5 +1,7 @@
 #include "io/TemporaryFileGuard.h"
 
+#include "io/SignalHold.h"
+
 #include <array>
 #include <atomic>
 #include <csignal>
@@ -37,6 +39,9 @@ bool g_fileSizeIgnored = false;
 
 extern "C" void removeTemporaryFiles(int signal)
 {
+    // Steps under way in another thread (a file replaced, its backups moved on) end first,
+    // so that what is removed here never holds the only copy of a version.
+    SignalHold::waitForRelease();
     for (Slot &slot : g_slots) {
         if (slot.used.load())
             ::unlink(slot.path);

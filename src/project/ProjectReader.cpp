@@ -357,18 +357,24 @@ void readApplication(FieldReader &in, AppSettingsRec &app)
     readFields(in, app, layout::AppLine3);
 }
 
+// The lines every project file begins with: its name, its two paths and the nine counts.
+void readHead(FieldReader &in, ProjectInfoRec &info, std::array<int16_t, KindCount> &counts)
+{
+    readFields(in, info, layout::ProjectNameLine);
+    readFields(in, info, layout::ProjectPathLine);
+    for (Kind kind : ListOrder) {
+        const KindInfo &kinds = kindInfo(kind);
+        const std::string name = std::string(kinds.name) + " count";
+        in.number(counts[kindIndex(kind)], name.c_str(), 0, kinds.lastSlot + 1);
+    }
+}
+
 void readDocument(FieldReader &in, Document &doc, ProgressSink &progress)
 {
-    readFields(in, doc.ProjectInfo, layout::ProjectNameLine);
-    readFields(in, doc.ProjectInfo, layout::ProjectPathLine);
-
+    readHead(in, doc.ProjectInfo, doc.ObjectCounts);
     int total = 0;
-    for (Kind kind : ListOrder) {
-        const KindInfo &info = kindInfo(kind);
-        const std::string name = std::string(info.name) + " count";
-        in.number(doc.objectCount(kind), name.c_str(), 0, info.lastSlot + 1);
+    for (Kind kind : ListOrder)
         total += doc.objectCount(kind);
-    }
     progress.setMaximum(total);
 
     progress.setLabel("Loading Application Data...");
@@ -426,6 +432,24 @@ ProjectReadResult readProject(std::string_view bytes, Document &doc)
 {
     ProgressSink quiet;
     return readProject(bytes, doc, quiet);
+}
+
+bool beginsAsProjectFile(std::string_view start)
+{
+    // A project file that holds characters beyond Windows-1252 begins with the UTF-8 byte
+    // order mark.
+    const bool utf8 = start.starts_with(layout::Utf8Mark);
+    if (utf8)
+        start.remove_prefix(layout::Utf8Mark.size());
+    FieldReader in(start, utf8);
+    ProjectInfoRec info;
+    std::array<int16_t, KindCount> counts{};
+    try {
+        readHead(in, info, counts);
+    } catch (const Damage &) {
+        return false;
+    }
+    return true;
 }
 
 std::string damageText(std::string_view file, int line, std::string_view message)

@@ -52,6 +52,11 @@ ProjectReadResult readProject(std::string_view bytes,
                               ProgressSink &progress,
                               const ReadOptions &options);
 
+// Whether `start`, the first bytes of a file, begins as every project file does: the
+// project's name and its two paths as texts, then the nine counts, as the reader takes them
+// (after a UTF-8 byte order mark, if there is one). Whatever follows is not looked at.
+bool beginsAsProjectFile(std::string_view start);
+
 // "FILE:LINE: MESSAGE", the form in which damage is shown.
 std::string damageText(std::string_view file, int line, std::string_view message);
 

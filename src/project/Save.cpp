@@ -1,6 +1,7 @@
 #include "project/Save.h"
 
 #include "rules/NewObjects.h"
+#include "project/ProjectReader.h"
 #include "project/ProjectWriter.h"
 #include "io/SafeSave.h"
 #include "io/SystemFileOps.h"
@@ -24,22 +25,37 @@ void recordChosenPath(Document &doc, const std::string &path)
     doc.openedFrom.clear(); // a chosen path is taken as it stands
 }
 
-SaveResult saveProject(Document &doc, UserInterface &ui, ProgressSink &progress, FileOps &ops)
+SaveResult saveProject(Document &doc,
+                       UserInterface &ui,
+                       ProgressSink &progress,
+                       FileOps &ops,
+                       const SaveOptions &options)
 {
     const Message warning{
         "Any new objects not opened in an editor window will be removed. Continue?",
         "Warning!",
         MessageIcon::Question,
         MessageButtons::YesNo};
-    if (ui.showMessage(warning) != MessageAnswer::Yes)
-        return {SaveResult::Status::Cancelled, {}, {}};
+    SaveResult result;
+    if (ui.showMessage(warning) != MessageAnswer::Yes) {
+        result.status = SaveResult::Status::Cancelled;
+        return result;
+    }
 
     progress.begin("Saving Data...");
     progress.setLabel("Removing New Objects...");
     removeNewObjects(doc);
     const std::string path = projectSavePath(doc);
-    FileWriteResult written = writeFileSafely(
-        path, projectFileBytes(doc, progress), ops, SafeWriteOptions{ProjectBackups});
+    SafeWriteOptions write{ProjectBackups};
+    // The path a project records may name any file (a downloaded project can name someone's
+    // notes); only a file chosen in Save As is replaced whatever it holds.
+    if (!options.fileChosen) {
+        write.refuseReplacing = [](std::string_view start) {
+            return beginsAsProjectFile(start) ? std::string() : std::string(NotAProjectFile);
+        };
+    }
+    write.keepReplacedAs = options.keepTheirsAs;
+    FileWriteResult written = writeFileSafely(path, projectFileBytes(doc, progress), ops, write);
     progress.end();
 
     if (!written.ok) {
@@ -47,11 +63,17 @@ SaveResult saveProject(Document &doc, UserInterface &ui, ProgressSink &progress,
                         "Save Data",
                         MessageIcon::Critical,
                         MessageButtons::OK});
-        return {SaveResult::Status::Failed, std::move(written.reason), {}};
+        result.status = SaveResult::Status::Failed;
+        result.reason = std::move(written.reason);
+        return result;
     }
-    SaveResult result;
+    if (!written.keptAs.empty())
+        result.notices.push_back("\"" + path +
+                                 "\" was saved; the version another program wrote is kept as \"" +
+                                 written.keptAs + "\"");
     for (const std::string &notKept : written.notKept)
         result.notices.push_back("\"" + path + "\" was saved, but " + notKept);
+    result.file = written.written;
     return result;
 }
 

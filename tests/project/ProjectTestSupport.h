@@ -99,6 +99,11 @@ private:
     std::filesystem::path m_path;
 };
 
+// The first lines of a project file as an earlier save left it: a file Save replaces, as it
+// refuses files that do not begin as a project file.
+inline const std::string OldProject =
+    "\"Old\"\r\n\"\",\"\"\r\n0\r\n0\r\n0\r\n0\r\n0\r\n0\r\n0\r\n0\r\n0\r\n";
+
 inline std::string readBytes(const std::string &path)
 {
     std::ifstream in(path, std::ios::binary);

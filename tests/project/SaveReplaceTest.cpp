@@ -29,7 +29,7 @@ protected:
     {
         doc->ProjectInfo.projectName = "Game";
         doc->ProjectInfo.projectFilePath = path;
-        writeBytes(path, "old\r\n");
+        writeBytes(path, OldProject);
     }
 };
 
@@ -43,7 +43,7 @@ TEST_F(SaveReplace, AReadOnlyFileIsRefusedInASaveDataMessage)
     EXPECT_EQ(ui.messages[1].text, "Could not save \"" + path + "\": it is read-only");
     EXPECT_EQ(ui.messages[1].title, "Save Data");
     EXPECT_EQ(ui.messages[1].icon, MessageIcon::Critical);
-    EXPECT_EQ(readBytes(path), "old\r\n");
+    EXPECT_EQ(readBytes(path), OldProject);
     EXPECT_EQ(folder.entries(), std::vector<std::string>{"game.dvb"});
 }
 
@@ -96,7 +96,7 @@ TEST_F(SaveReplace, SavingThroughALinkReplacesItsTarget)
     ASSERT_TRUE(saveProject(*doc, ui, quiet, ops).written());
     EXPECT_TRUE(std::filesystem::is_symlink(link));
     EXPECT_EQ(splitCrlf(readBytes(path))[1].rfind("\"" + link + "\"", 0), 0u);
-    EXPECT_EQ(readBytes(path + ".bak1"), "old\r\n");
+    EXPECT_EQ(readBytes(path + ".bak1"), OldProject);
 }
 
 TEST(SaveAsName, GetsTheProjectExtensionWhenItHasNone)

@@ -46,14 +46,14 @@ protected:
 
 TEST_F(SaveTest, AnsweringNoTouchesNothing)
 {
-    writeBytes(folder.file("saved.dvb"), "old");
+    writeBytes(folder.file("saved.dvb"), OldProject);
     ui.answers = {MessageAnswer::No};
     EXPECT_FALSE(Save(*doc, ui, progress));
     ASSERT_EQ(ui.messages.size(), 1u);
     EXPECT_TRUE(ui.messages[0] == Warning);
     EXPECT_TRUE(progress.events.empty());
     EXPECT_EQ(doc->list(Kind::Image).lines.size(), 2u);
-    EXPECT_EQ(readBytes(folder.file("saved.dvb")), "old");
+    EXPECT_EQ(readBytes(folder.file("saved.dvb")), OldProject);
     EXPECT_EQ(folder.entries(), std::vector<std::string>{"saved.dvb"});
 }
 
@@ -114,7 +114,7 @@ TEST_F(SaveTest, FailedWriteIsShownWithTheFileAndTheReason)
 
 TEST_F(SaveTest, FailedWriteKeepsThePreviousFile)
 {
-    writeBytes(folder.file("saved.dvb"), "old");
+    writeBytes(folder.file("saved.dvb"), OldProject);
     FailingFileOps ops;
     ops.failWriteAt = 10;
     const SaveResult r = saveProject(*doc, ui, progress, ops);
@@ -122,7 +122,7 @@ TEST_F(SaveTest, FailedWriteKeepsThePreviousFile)
     EXPECT_EQ(r.reason, "No space left on device");
     EXPECT_EQ(ui.messages.back().text,
               "Could not save \"" + folder.file("saved.dvb") + "\": No space left on device");
-    EXPECT_EQ(readBytes(folder.file("saved.dvb")), "old");
+    EXPECT_EQ(readBytes(folder.file("saved.dvb")), OldProject);
     EXPECT_EQ(folder.entries(), std::vector<std::string>{"saved.dvb"});
 }
 

@@ -59,6 +59,23 @@ private:
         m_window->showList(Kind::Button);
     }
 
+    // Runs File > New; true when it went on to the project name dialog, which is then
+    // cancelled. A dialog that never comes is not waited for later.
+    bool runNew()
+    {
+        auto armed = std::make_shared<bool>(true);
+        auto shown = std::make_shared<bool>(false);
+        whenModalShown<QDialog>([armed, shown](QDialog *dialog) {
+            if (!*armed)
+                return;
+            *shown = true;
+            dialog->reject();
+        });
+        m_window->form().mnuNew->trigger();
+        *armed = false;
+        return *shown;
+    }
+
 private slots:
     void init()
     {
@@ -81,7 +98,7 @@ private slots:
         newProject(*m_window);
         m_ui->answers = {MessageAnswer::Yes};
         m_ui->fileChoices = {std::nullopt}; // the Save As dialog is cancelled
-        newProject(*m_window, QStringLiteral("Second"));
+        const bool nameDialogShown = runNew();
         QCOMPARE(m_ui->messages.size(), size_t(1));
         QCOMPARE(m_ui->messages[0].text,
                  std::string("Save your data? Any unsaved data will be lost!"));
@@ -94,7 +111,75 @@ private slots:
         QCOMPARE(request.filterName, std::string("Data Files"));
         QCOMPARE(request.pattern, std::string("*.dvb"));
         QCOMPARE(request.proposedName, std::string("My Project.dvb"));
-        QCOMPARE(m_window->windowTitle(), QStringLiteral("Vorlane - Second"));
+        // The save did not happen, so New stops there and keeps the project.
+        QCOMPARE(m_window->windowTitle(), QStringLiteral("Vorlane - My Project"));
+        QVERIFY(!nameDialogShown);
+    }
+
+    void newStopsWhenTheOfferedSaveOfAReadOnlyFileFails()
+    {
+        newProject(*m_window);
+        addLiveButton("btnKeep");
+        const QString file = path(QStringLiteral("game.dvb"));
+        m_ui->fileChoices = {file.toStdString()};
+        m_window->form().mnuSaveAs->trigger();
+        const QByteArray saved = readAll(file);
+        QVERIFY(QFile::setPermissions(file, QFile::ReadOwner | QFile::ReadUser));
+        addLiveButton("btnLater");
+        m_ui->messages.clear();
+        m_ui->answers = {MessageAnswer::Yes, MessageAnswer::Yes};
+        const bool nameDialogShown = runNew();
+        QCOMPARE(m_ui->messages.size(), size_t(3));
+        QCOMPARE(m_ui->messages[0].text,
+                 std::string("Save your data? Any unsaved data will be lost!"));
+        QCOMPARE(m_ui->messages[2].text,
+                 "Could not save \"" + file.toStdString() + "\": it is read-only");
+        QCOMPARE(m_ui->messages[2].title, std::string("Save Data"));
+        QVERIFY(!nameDialogShown);
+        QCOMPARE(m_window->windowTitle(), QStringLiteral("Vorlane - My Project"));
+        QCOMPARE(listTexts(m_window->objectList(2)), QStringList({"btnKeep", "btnLater"}));
+        QCOMPARE(m_doc->ProjectInfo.projectFilePath, file.toStdString());
+        QCOMPARE(readAll(file), saved);
+        QVERIFY(QFile::setPermissions(file, QFile::ReadOwner | QFile::WriteOwner));
+    }
+
+    void newStopsWhenTheNewObjectsWarningIsAnsweredNo()
+    {
+        newProject(*m_window);
+        addLiveButton("btnKeep");
+        clickButton(m_window->form().cmdObjAdd); // a new object the warning would remove
+        const QString file = path(QStringLiteral("game.dvb"));
+        m_ui->fileChoices = {file.toStdString()};
+        m_ui->answers = {MessageAnswer::No}; // keep the new object: nothing is written
+        m_window->form().mnuSaveAs->trigger();
+        QVERIFY(!QFile::exists(file));
+        m_ui->messages.clear();
+        m_ui->answers = {MessageAnswer::Yes, MessageAnswer::No};
+        const bool nameDialogShown = runNew();
+        QCOMPARE(m_ui->messages.size(), size_t(2));
+        QCOMPARE(m_ui->messages[0].text,
+                 std::string("Save your data? Any unsaved data will be lost!"));
+        QCOMPARE(m_ui->messages[1].text,
+                 std::string("Any new objects not opened in an editor window will be removed. "
+                             "Continue?"));
+        QVERIFY(!nameDialogShown);
+        QCOMPARE(m_window->windowTitle(), QStringLiteral("Vorlane - My Project"));
+        QCOMPARE(m_window->objectList(2)->count(), 2);
+        QCOMPARE(m_doc->Buttons[0].inUse, int16_t(-1));
+        QVERIFY(!QFile::exists(file));
+    }
+
+    void newGoesOnWhenTheOfferedSaveIsWritten()
+    {
+        newProject(*m_window);
+        addLiveButton("btnKeep");
+        const QString file = path(QStringLiteral("game.dvb"));
+        m_ui->fileChoices = {file.toStdString()};
+        m_ui->answers = {MessageAnswer::Yes, MessageAnswer::Yes};
+        newProject(*m_window, QStringLiteral("Next"));
+        QVERIFY(readAll(file).contains("\"btnKeep\""));
+        QCOMPARE(m_window->windowTitle(), QStringLiteral("Vorlane - Next"));
+        QCOMPARE(m_window->objectList(2)->count(), 0);
     }
 
     void newWithNoDiscardsWithoutFurtherQuestion()

@@ -37,6 +37,23 @@ void ProblemsPanel::showProblems(const QString &summary, const std::vector<std::
     raise();
 }
 
+void ProblemsPanel::addProblem(const QString &summary,
+                               const std::string &problem,
+                               const std::string &replaced)
+{
+    if (!replaced.empty()) {
+        const auto found =
+            m_lstProblems->findItems(QString::fromStdString(replaced), Qt::MatchExactly);
+        for (QListWidgetItem *item : found)
+            delete m_lstProblems->takeItem(m_lstProblems->row(item));
+    }
+    m_lblProblems->setText(summary);
+    m_lstProblems->addItem(QString::fromStdString(problem));
+    m_lstProblems->setVisible(true);
+    show();
+    raise();
+}
+
 void ProblemsPanel::clearProblems()
 {
     m_lblProblems->clear();

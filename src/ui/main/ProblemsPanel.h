@@ -21,6 +21,11 @@ public:
 
     // Shows `summary` above `problems` and brings the panel up.
     void showProblems(const QString &summary, const std::vector<std::string> &problems);
+    // Adds `problem` below the lines shown, in place of `replaced` when that is one of them,
+    // and brings the panel up under `summary`.
+    void addProblem(const QString &summary,
+                    const std::string &problem,
+                    const std::string &replaced = {});
     // Empties and hides the panel.
     void clearProblems();
 

@@ -6,6 +6,7 @@
 #include "ObjectListView.h"
 #include "QuickStatsView.h"
 #include "ProblemsPanel.h"
+#include "ProjectFileWatcher.h"
 #include "RecoveryKeeper.h"
 #include "io/SystemFileOps.h"
 #include "project/ProjectCheck.h"
@@ -104,6 +105,11 @@ frmMain::frmMain(Document &doc, UserInterface &userInterface, QWidget *parent)
     m_ui.fraAppStats->setVisible(false);
     m_problemsPanel = new ProblemsPanel(this);
     addDockWidget(Qt::BottomDockWidgetArea, m_problemsPanel);
+    m_fileWatcher = new ProjectFileWatcher(
+        [this](const std::string &line, const std::string &replaced) {
+            showFileChange(line, replaced);
+        },
+        this);
     setUpTabs();
     connectHandlers();
     Form_Load();
@@ -362,18 +368,17 @@ void frmMain::mnuNew_Click()
                                          "Save Data",
                                          MessageIcon::Question,
                                          MessageButtons::YesNo});
-        if (answer == MessageAnswer::Yes) {
-            if (!m_doc.ProjectInfo.projectFilePath.empty())
-                mnuSave_Click();
-            else
-                mnuSaveAs_Click();
-        }
+        // Save runs Save As for a project without a file. A save that did not happen (it
+        // failed, or was cancelled at its dialog or its warning) stops New, as it stops Exit.
+        if (answer == MessageAnswer::Yes && !saveProject())
+            return;
     }
     frmDataProjName dialog(this);
     if (dialog.exec() != QDialog::Accepted)
         return;
     runProjectStep(NewStepName, [this, &dialog]() {
         setUpNewProject(m_doc, dialog.name().toStdString());
+        m_fileWatcher->opened({}); // a new project has no file yet
         projectOpened();
         for (Kind kind : ListOrder)
             showList(kind);
@@ -414,6 +419,7 @@ OpenOutcome frmMain::openChosen(const std::string &path)
     const OpenOutcome outcome = Open(m_doc, path, m_userInterface, progress());
     m_ui.txtAppRootFolder->setText(qs(m_doc.AppSettings.rootFolder));
     listsChanged();
+    m_fileWatcher->opened(outcome.opened() ? projectSavePath(m_doc) : std::string());
     if (!outcome.opened())
         return outcome;
     // A project that was already open keeps its caption: only the first Open of a run sets it.
@@ -470,7 +476,7 @@ bool frmMain::saveProject()
         return saveProjectAs();
     SaveResult result;
     recordRemovedNewObjects([this, &result]() {
-        result = vorlane::saveProject(m_doc, m_userInterface, progress(), systemFileOps());
+        result = writeProject(false);
     });
     listsChanged();
     if (result.written())
@@ -493,13 +499,34 @@ bool frmMain::saveProjectAs()
     recordChosenPath(m_doc, withProjectExtension(*path));
     SaveResult result;
     recordRemovedNewObjects([this, &result]() {
-        result = vorlane::saveProject(m_doc, m_userInterface, progress(), systemFileOps());
+        result = writeProject(true);
     });
     listsChanged();
     m_ui.mnuSave->setEnabled(true);
     if (result.written())
         showSaveProblems(result.notices);
     return result.written();
+}
+
+SaveResult frmMain::writeProject(bool fileChosen)
+{
+    const std::string path = projectSavePath(m_doc);
+    SaveOptions options;
+    options.fileChosen = fileChosen;
+    options.keepTheirsAs = m_fileWatcher->theirsName(path);
+    m_fileWatcher->setSaving(true);
+    SaveResult result =
+        vorlane::saveProject(m_doc, m_userInterface, progress(), systemFileOps(), options);
+    m_fileWatcher->setSaving(false);
+    if (result.written())
+        m_fileWatcher->saved(path, result.file);
+    return result;
+}
+
+void frmMain::showFileChange(const std::string &line, const std::string &replaced)
+{
+    m_problemsPanel->addProblem(
+        QStringLiteral("The project file was changed on disk."), line, replaced);
 }
 
 void frmMain::showSaveProblems(const std::vector<std::string> &notices)

@@ -25,6 +25,8 @@ class frmProgress;
 class ProblemsPanel;
 class RecoveryKeeper;
 class RecoveryStore;
+class ProjectFileWatcher;
+struct SaveResult;
 class Registry;
 struct GenerateResult;
 struct QuickStats;
@@ -131,6 +133,11 @@ private:
     // Save and Save As; true when the project file was written.
     bool saveProject();
     bool saveProjectAs();
+    // Writes the project to its file, keeping a version another program wrote, and watches
+    // the file written; `fileChosen` for Save As, which may replace any file.
+    SaveResult writeProject(bool fileChosen);
+    // Shows a change of the project file made by another program in the problems panel.
+    void showFileChange(const std::string &line, const std::string &replaced);
     // After a Save: what the saved file would not carry back, and what of the previous file
     // could not be kept, in the problems panel and the status line.
     void showSaveProblems(const std::vector<std::string> &notices);
@@ -166,6 +173,7 @@ private:
     UserInterface &m_userInterface;
     frmProgress *m_progress = nullptr;
     ProblemsPanel *m_problemsPanel = nullptr;
+    ProjectFileWatcher *m_fileWatcher = nullptr;
     int m_currentTab = 0;
     std::array<QListWidget *, TabCount + 1> m_lists{};
     std::array<ObjectListView *, TabCount + 1> m_listViews{};
