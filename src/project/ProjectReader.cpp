@@ -441,7 +441,7 @@ bool beginsAsProjectFile(std::string_view start)
     const bool utf8 = start.starts_with(layout::Utf8Mark);
     if (utf8)
         start.remove_prefix(layout::Utf8Mark.size());
-    FieldReader in(start, utf8);
+    FieldReader in(start, utf8, ReadOptions{});
     ProjectInfoRec info;
     std::array<int16_t, KindCount> counts{};
     try {

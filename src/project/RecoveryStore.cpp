@@ -55,6 +55,16 @@ std::string recordedProjectName(const std::string &path, FileOps &ops)
     return doc->ProjectInfo.projectName;
 }
 
+// A write that did not happen, for `reason`.
+FileWriteResult failed(std::string reason, const std::string &path)
+{
+    FileWriteResult result;
+    result.ok = false;
+    result.reason = std::move(reason);
+    result.target = path;
+    return result;
+}
+
 } // namespace
 
 std::string RecoveryStore::defaultFolder()
@@ -94,9 +104,9 @@ FileWriteResult RecoveryStore::write(const Document &doc)
     const std::string path = ownPath();
     const std::string projectPath = projectSavePath(doc);
     if (!projectPath.empty() && sameFile(projectPath, path))
-        return {false, "it is the project's own file", path, {}};
+        return failed("it is the project's own file", path);
     if (const int error = makeFolders(m_folder); error != 0)
-        return {false, errorText(error), path, {}};
+        return failed(errorText(error), path);
     std::string bytes;
     {
         // The path as Save would write to it: the recovered project is no longer opened from
@@ -106,7 +116,7 @@ FileWriteResult RecoveryStore::write(const Document &doc)
         try {
             bytes = projectFileBytes(*copy);
         } catch (const std::exception &failure) {
-            return {false, failure.what(), path, {}};
+            return failed(failure.what(), path);
         }
     }
     return writeFileSafely(path, bytes, m_ops);
