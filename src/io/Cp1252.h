@@ -14,6 +14,9 @@ void appendCp1252(std::string &out, std::string_view utf8);
 void appendUtf8(std::string &out, std::string_view bytes);
 
 std::string toCp1252(std::string_view utf8);
+
+// Whether Windows-1252 holds the character `cp` (so that it is not written as "?").
+bool cp1252Holds(char32_t cp);
 std::string toUtf8(std::string_view cp1252);
 
 } // namespace vorlane

@@ -54,6 +54,10 @@ public:
     QPushButton *playButton() const { return m_play; }
     QString delayCaption() const;
 
+signals:
+    // The cell now shown, playing or stopped; 0 when none is.
+    void shownCellChanged(int cell);
+
 private:
     void showStill();
 
