@@ -26,6 +26,9 @@ ScenePreview::ScenePreview(QWidget *parent)
     zoomLabel->setBuddy(m_zoomBox);
     m_snap = new QCheckBox(QStringLiteral("Snap to 8 px"), this);
     m_snap->setObjectName(QStringLiteral("chkSceneSnap"));
+    // Tab walks the scene's own controls only; the zoom and the snap are chosen by mouse.
+    m_zoomBox->setFocusPolicy(Qt::ClickFocus);
+    m_snap->setFocusPolicy(Qt::ClickFocus);
     row->addWidget(zoomLabel);
     row->addWidget(m_zoomBox);
     row->addWidget(m_snap);
