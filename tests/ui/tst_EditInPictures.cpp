@@ -24,6 +24,7 @@
 #include <QApplication>
 #include <QCheckBox>
 #include <QComboBox>
+#include <QDir>
 #include <QFile>
 #include <QFileInfo>
 #include <QLineEdit>
@@ -188,6 +189,18 @@ private:
         const QPoint at(view->viewport()->width() / 2, view->visualRect(index).center().y());
         QTest::mouseClick(view->viewport(), Qt::LeftButton, {}, at);
         QCOMPARE(zoom->currentText(), caption);
+    }
+
+    // Saves the project to a file and opens that file again, so that what follows reads what
+    // the file holds.
+    void saveAndReopen(const QString &name)
+    {
+        const std::string file = QDir(m_dir.path()).filePath(name).toStdString();
+        m_ui->fileChoices = {file};
+        m_window->form().mnuSaveAs->trigger();
+        m_ui->fileChoices = {file};
+        m_window->form().mnuOpen->trigger();
+        QCOMPARE(m_doc->ProjectInfo.projectFilePath, file);
     }
 
     bool editAnimation(std::function<void(frmAnim *)> action)
@@ -365,6 +378,8 @@ private slots:
             QCOMPARE(sheet->highlightedCell(), 3);
             editor->close();
         }));
+        saveAndReopen(QStringLiteral("frames.dvb"));
+        QCOMPARE(m_doc->Sprites[0].id, std::string("hero"));
         const AnimRec &anim = m_doc->Sprites[0].anims[0];
         QCOMPARE(anim.frames[0].inUse, int16_t(-1));
         QCOMPARE(anim.frames[0].cell, int16_t(6));
@@ -423,7 +438,9 @@ private slots:
             clickBox(f.chkButtonCaptionVisible);
             editor->close();
         }));
+        saveAndReopen(QStringLiteral("states.dvb"));
         const ButtonRec &stored = m_doc->Buttons[0];
+        QCOMPARE(stored.id, std::string("btnOk"));
         QCOMPARE(stored.frameUp, int16_t(1));
         QCOMPARE(stored.frameOver, int16_t(7));
         QCOMPARE(stored.frameDisabled, int16_t(8));
