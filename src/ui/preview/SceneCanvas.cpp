@@ -33,7 +33,7 @@ SceneCanvas::SceneCanvas(QWidget *parent)
     setMinimumSize(320, 240);
     setFocusPolicy(Qt::NoFocus);
     setMouseTracking(true);
-    m_image = QImage(m_screen.width, m_screen.height, QImage::Format_ARGB32);
+    m_image = QImage(m_screen.width, m_screen.height, QImage::Format_ARGB32_Premultiplied);
     m_image.fill(Qt::black);
 }
 
@@ -59,7 +59,7 @@ void SceneCanvas::setScene(const Document &doc, const SceneRec &scene, std::vect
 
 void SceneCanvas::render(const Document &, const std::vector<SceneItem> &items)
 {
-    m_image = QImage(m_screen.width, m_screen.height, QImage::Format_ARGB32);
+    m_image = QImage(m_screen.width, m_screen.height, QImage::Format_ARGB32_Premultiplied);
     m_image.fill(Qt::black);
     m_hits.clear();
     m_notes.clear();
@@ -117,7 +117,8 @@ void SceneCanvas::render(const Document &, const std::vector<SceneItem> &items)
                     painter, area, id + QStringLiteral("\n") + qt(noObjectText("image", "")));
                 break;
             }
-            const PreviewPicture &picture = this->picture(item.picture);
+            const Picture &cached = picture(item.picture);
+            const PreviewPicture &picture = cached.picture;
             if (picture.isNull()) {
                 const int w = item.picture.cellWidth > 0 ? item.picture.cellWidth : OutlineSide;
                 const int h = item.picture.cellHeight > 0 ? item.picture.cellHeight : OutlineSide;
@@ -129,7 +130,7 @@ void SceneCanvas::render(const Document &, const std::vector<SceneItem> &items)
                 m_notes << tr("Layer %1: %2").arg(item.layerSlot).arg(picture.problem());
                 break;
             }
-            const QImage &image = picture.image();
+            const QImage &image = cached.drawn;
             if (item.kind == SceneItemKind::Image) {
                 area = QRect(at, image.size());
                 painter.drawImage(at, image);
@@ -161,17 +162,21 @@ void SceneCanvas::render(const Document &, const std::vector<SceneItem> &items)
     }
 }
 
-const PreviewPicture &SceneCanvas::picture(const PictureSpec &spec)
+const SceneCanvas::Picture &SceneCanvas::picture(const PictureSpec &spec)
 {
     const QString key = spec.file ? qt(*spec.file) : QString();
     auto found = m_pictures.find(key);
-    if (found == m_pictures.end() || found->second.isNull()) {
-        found = m_pictures.insert(key, {spec, PreviewPicture::load(spec)});
-    } else if (!(found->first == spec)) {
-        found->second = found->second.rekeyed(spec);
-        found->first = spec;
+    if (found == m_pictures.end() || found->picture.isNull()) {
+        Picture loaded{spec, PreviewPicture::load(spec), QImage()};
+        found = m_pictures.insert(key, loaded);
+    } else if (!(found->spec == spec)) {
+        found->picture = found->picture.rekeyed(spec);
+        found->spec = spec;
+        found->drawn = QImage();
     }
-    return found->second;
+    if (found->drawn.isNull() && !found->picture.isNull())
+        found->drawn = found->picture.image().convertToFormat(QImage::Format_ARGB32_Premultiplied);
+    return *found;
 }
 
 QList<int> SceneCanvas::zoomSteps()

@@ -83,9 +83,15 @@ private:
     QRect shownArea() const;
     QRect toWidget(const QRect &screenArea) const;
     void render(const Document &doc, const std::vector<SceneItem> &items);
-    // The picture of a file, read once while the canvas lives: a drag draws every layer
-    // again at each move.
-    const PreviewPicture &picture(const PictureSpec &spec);
+    // The picture of a file, read once while the canvas lives (a drag draws every layer again
+    // at each move), with a premultiplied copy, which Qt draws without converting it.
+    struct Picture
+    {
+        PictureSpec spec;
+        PreviewPicture picture;
+        QImage drawn;
+    };
+    const Picture &picture(const PictureSpec &spec);
     void setHovered(int layerSlot);
 
     ScreenSize m_screen = DefaultScreen;
@@ -97,7 +103,7 @@ private:
     int m_hovered = -1;
     int m_dragged = -1;
     QPoint m_pressedAt;
-    QHash<QString, std::pair<PictureSpec, PreviewPicture>> m_pictures;
+    QHash<QString, Picture> m_pictures;
 };
 
 } // namespace vorlane
