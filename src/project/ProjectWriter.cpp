@@ -29,25 +29,16 @@ constexpr auto SmallNumbers = [] {
     return table;
 }();
 
-// Builds the file in a buffer: the whole file in one, or chunk by chunk when the chunks go
-// to a sink. Every write claims its room first and then fills it through a pointer, so
-// writing a field never allocates.
+// Builds the file in one buffer. Every write claims its room first and then fills it through
+// a pointer, so writing a field never allocates.
 class LineWriter
 {
 public:
     explicit LineWriter(size_t expectedSize)
     {
-        m_buf.reserve(expectedSize);
+        m_buf.resize(expectedSize);
         m_cur = m_buf.data();
-        m_limit = m_buf.data() + m_buf.capacity();
-    }
-
-    explicit LineWriter(ChunkSink &sink)
-        : m_sink(&sink)
-    {
-        m_buf = sink.next(0);
-        m_cur = m_buf.data();
-        m_limit = m_buf.data() + m_buf.capacity();
+        m_limit = m_buf.data() + m_buf.size();
     }
 
     void text(std::string_view utf8)
@@ -102,18 +93,11 @@ public:
         m_cur = p + 2;
     }
 
-    ByteBuffer take()
+    std::string take()
     {
-        m_buf.setSize(static_cast<size_t>(m_cur - m_buf.data()));
-        return std::move(m_buf);
-    }
-
-    // Hands what is left to the sink.
-    void finish()
-    {
-        m_buf.setSize(static_cast<size_t>(m_cur - m_buf.data()));
-        m_sink->put(std::move(m_buf));
+        m_buf.resize(static_cast<size_t>(m_cur - m_buf.data()));
         m_cur = m_limit = nullptr;
+        return std::move(m_buf);
     }
 
 private:
@@ -135,25 +119,16 @@ private:
         return m_cur;
     }
 
-    // Makes room for `size` more bytes: hands the chunk to the sink and goes on in a fresh
-    // one, or grows the one buffer.
+    // Makes room for `size` more bytes, keeping what is written.
     void grow(size_t size)
     {
         const size_t used = static_cast<size_t>(m_cur - m_buf.data());
-        m_buf.setSize(used);
-        if (m_sink) {
-            m_sink->put(std::move(m_buf));
-            m_buf = m_sink->next(size);
-            m_cur = m_buf.data();
-        } else {
-            m_buf.reserve(std::max(m_buf.capacity() * 2, used + size));
-            m_cur = m_buf.data() + used;
-        }
-        m_limit = m_buf.data() + m_buf.capacity();
+        m_buf.resize(std::max(m_buf.size() * 2, used + size));
+        m_cur = m_buf.data() + used;
+        m_limit = m_buf.data() + m_buf.size();
     }
 
-    ChunkSink *m_sink = nullptr;
-    ByteBuffer m_buf; // written up to m_cur; the rest is room
+    std::string m_buf; // written up to m_cur; the rest is room
     char *m_cur = nullptr;
     char *m_limit = nullptr;
     std::string m_scratch;
@@ -326,21 +301,14 @@ void writeDocument(LineWriter &out, const Document &doc, ProgressSink &progress)
 
 } // namespace
 
-ByteBuffer projectFileBytes(const Document &doc, ProgressSink &progress)
+std::string projectFileBytes(const Document &doc, ProgressSink &progress)
 {
     LineWriter out(expectedSize(doc));
     writeDocument(out, doc, progress);
     return out.take();
 }
 
-void writeProjectFile(const Document &doc, ProgressSink &progress, ChunkSink &sink)
-{
-    LineWriter out(sink);
-    writeDocument(out, doc, progress);
-    out.finish();
-}
-
-ByteBuffer projectFileBytes(const Document &doc)
+std::string projectFileBytes(const Document &doc)
 {
     ProgressSink quiet;
     return projectFileBytes(doc, quiet);

@@ -1,9 +1,9 @@
 #pragma once
 
-#include "io/ByteBuffer.h"
-#include "io/ChunkSink.h"
 #include "rules/ProgressSink.h"
 #include "model/modGlobal.h"
+
+#include <string>
 
 namespace vorlane {
 
@@ -13,12 +13,9 @@ namespace vorlane {
 // Reports "Saving Application Data...", the per-kind labels and "Saving Log Data..." to
 // `progress`, and one step per object. A list line whose slot lies outside its table throws
 // std::out_of_range.
-ByteBuffer projectFileBytes(const Document &doc, ProgressSink &progress);
+std::string projectFileBytes(const Document &doc, ProgressSink &progress);
 
 // The same, without progress reports.
-ByteBuffer projectFileBytes(const Document &doc);
-
-// The same bytes, handed to `sink` a chunk at a time while they are written.
-void writeProjectFile(const Document &doc, ProgressSink &progress, ChunkSink &sink);
+std::string projectFileBytes(const Document &doc);
 
 } // namespace vorlane

@@ -588,7 +588,7 @@ TEST_F(CheckProject, ASaveShowsOnlyWhatHitsTheProjectFile)
 TEST_F(CheckProject, WhatIsReportedDoesNotReadBack)
 {
     doc->Texts[0].content = "x\",y";
-    const std::string bytes = projectFileBytes(*doc).str();
+    const std::string bytes = projectFileBytes(*doc);
     auto reread = makeDocument();
     const ProjectReadResult read = readProject(bytes, *reread);
     EXPECT_TRUE(read.status != ProjectReadResult::Status::Read ||
@@ -596,8 +596,7 @@ TEST_F(CheckProject, WhatIsReportedDoesNotReadBack)
 
     doc->Texts[0].content = "x\"y";
     auto intact = makeDocument();
-    ASSERT_EQ(readProject(projectFileBytes(*doc).str(), *intact).status,
-              ProjectReadResult::Status::Read);
+    ASSERT_EQ(readProject(projectFileBytes(*doc), *intact).status, ProjectReadResult::Status::Read);
     EXPECT_EQ(intact->Texts[0].content, "x\"y");
 }
 

@@ -267,7 +267,7 @@ private:
 std::string save(Document &doc)
 {
     removeNewObjects(doc);
-    return projectFileBytes(doc).str();
+    return projectFileBytes(doc);
 }
 
 std::string reopenAndSave(const std::string &bytes)
