@@ -1,16 +1,18 @@
-// Pictures of the image, animation, scene, button, cursor and text editors with their
-// previews, for the manual:
-// opens the example project and saves each editor as a PNG in docs/images. Run from the
-// repository's folder under a display (scripts use xvfb-run), as
+// Pictures of the editors for the manual: opens the example project and saves the image,
+// sprite, animation, scene, button, cursor and text editors, their previews and the custom
+// filter window as PNGs in docs/images. Run from the repository's folder under a display
+// (scripts use xvfb-run), as
 //     build/dev/vorlane-preview-shots
 #include "AnimationPlayer.h"
+#include "ImageSheetView.h"
+#include "ScenePreview.h"
 #include "QtUserInterface.h"
 #include "SceneCanvas.h"
-#include "ScenePreview.h"
 #include "frmAnim.h"
 #include "frmButton.h"
 #include "frmCursor.h"
 #include "frmImage.h"
+#include "frmLogCustom.h"
 #include "frmScene.h"
 #include "frmSprite.h"
 #include "frmText.h"
@@ -22,7 +24,7 @@
 #include <QApplication>
 #include <QCheckBox>
 #include <QElapsedTimer>
-#include <QFileInfo>
+#include <QLineEdit>
 #include <QListWidget>
 #include <QPushButton>
 #include <QRadioButton>
@@ -41,6 +43,13 @@ void save(QWidget &window, const char *file)
     window.resize(window.sizeHint().expandedTo(window.size()));
     QTest::qWait(300);
     window.grab().save(QString::fromUtf8(file));
+    std::printf("%s\n", file);
+}
+
+// A preview alone, as the window shown last holds it.
+void savePart(QWidget &part, const char *file)
+{
+    part.grab().save(QString::fromUtf8(file));
     std::printf("%s\n", file);
 }
 
@@ -64,16 +73,22 @@ int main(int argc, char **argv)
     frmImage image(*doc);
     image.Form_Load();
     save(image, "docs/images/image-editor-preview.png");
+    savePart(*image.form().picImageSheet, "docs/images/preview-sheet.png");
     image.hide();
 
     doc->currentObjectIndex = static_cast<int16_t>(slotOf(*doc, Kind::Sprite, "sprHero"));
     doc->currentAnimIndex = 0;
     frmSprite sprite(*doc);
+    sprite.Form_Load();
+    save(sprite, "docs/images/sprite-editor.png");
+    sprite.hide();
     frmAnim anim(*doc, sprite);
     anim.Form_Load();
+    save(anim, "docs/images/animation-editor.png");
     anim.form().picAnimPlayer->play();
     QTest::qWait(250);
     save(anim, "docs/images/animation-editor-preview.png");
+    savePart(*anim.form().picAnimPlayer, "docs/images/preview-animation.png");
     anim.form().picAnimPlayer->stop();
     anim.hide();
 
@@ -81,11 +96,12 @@ int main(int argc, char **argv)
     frmScene sceneEditor(*doc);
     sceneEditor.Form_Load();
     save(sceneEditor, "docs/images/scene-editor-preview.png");
+    savePart(*sceneEditor.form().picScenePreview, "docs/images/preview-scene.png");
     // The "Play" button's layer selected, "Snap to 8 px" checked, the pointer over the hero.
-    sceneEditor.form().lstSceneLayers->setCurrentRow(2);
+    sceneEditor.form().lstSceneLayers->setCurrentRow(3);
     sceneEditor.form().picScenePreview->snapBox()->setChecked(true);
     SceneCanvas *canvas = sceneEditor.form().picScenePreview->canvas();
-    QTest::mouseMove(canvas, canvas->objectRect(1).center());
+    QTest::mouseMove(canvas, canvas->objectRect(2).center());
     save(sceneEditor, "docs/images/scene-editor-drag.png");
     sceneEditor.hide();
 
@@ -96,31 +112,16 @@ int main(int argc, char **argv)
     save(button, "docs/images/button-editor-sheet.png");
     button.hide();
 
-    // The example has no cursor and no font: the pictures use ones made here, which are
-    // never saved.
-    doc->Cursors[0] = CursorRec{};
-    doc->Cursors[0].inUse = -1;
-    doc->Cursors[0].id = "curHero";
-    doc->Cursors[0].imageId = "imgHero";
-    doc->Cursors[0].orientation = 5;
-    doc->list(Kind::Cursor).lines.push_back({"curHero", 0});
-    doc->currentObjectIndex = 0;
+    doc->currentObjectIndex = static_cast<int16_t>(slotOf(*doc, Kind::Cursor, "curArrow"));
     frmCursor cursor(*doc);
     cursor.Form_Load();
     save(cursor, "docs/images/cursor-editor-preview.png");
     cursor.hide();
 
-    const char *dejaVu = "/usr/share/fonts/truetype/dejavu/DejaVuSans-Bold.ttf";
-    if (QFileInfo::exists(QString::fromUtf8(dejaVu))) {
-        doc->Fonts[0] = FontRec{};
-        doc->Fonts[0].inUse = -1;
-        doc->Fonts[0].id = "fntMenu";
-        doc->Fonts[0].path = dejaVu;
-        doc->list(Kind::Font).lines.push_back({"fntMenu", 0});
-    }
+    // The "Play" text in the example's font, given a clip rectangle, a background and
+    // characters the engine cannot read back, to show each; none of it is saved.
     doc->currentObjectIndex = static_cast<int16_t>(slotOf(*doc, Kind::Text, "txtPlay"));
     TextRec &play = doc->Texts[static_cast<size_t>(doc->currentObjectIndex)];
-    play.fontId = "fntMenu";
     play.content = "Play * Jouer \u2192";
     play.backRed = 40;
     play.backGreen = 60;
@@ -130,5 +131,11 @@ int main(int argc, char **argv)
     frmText text(*doc);
     text.Form_Load();
     save(text, "docs/images/text-editor-preview.png");
+    text.hide();
+
+    frmLogCustom custom(*doc, ui);
+    custom.Form_Load();
+    custom.form().txtCustomFilterName->setText(QStringLiteral("Loading screen"));
+    save(custom, "docs/images/log-custom.png");
     return 0;
 }

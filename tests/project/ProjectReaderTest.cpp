@@ -214,6 +214,33 @@ TEST(ProjectReader, HotSpotComesBackWithoutItsCursorAndWithItsDefaults)
     EXPECT_EQ(hot.frameOver, 9);
 }
 
+TEST(ProjectReader, KeepingFileValuesKeepsAHotSpotsCursorAndTheSplashFlag)
+{
+    std::vector<std::string> lines = SmallProject;
+    lines[11] = "\"root\",\"caption\",\"icon\",800,600,32,2,60,2";
+    lines.erase(lines.begin() + 12);
+    const std::string file = crlf(lines);
+
+    auto dropped = makeDocument();
+    ASSERT_EQ(readProject(file, *dropped).status, ProjectReadResult::Status::Read);
+    EXPECT_EQ(dropped->Buttons[1].cursorId, "null");
+    EXPECT_EQ(dropped->AppSettings.splashEnabled, 0);
+
+    auto kept = makeDocument();
+    ProgressSink quiet;
+    ReadOptions options;
+    options.keepFileValues = true;
+    ASSERT_EQ(readProject(file, *kept, quiet, options).status, ProjectReadResult::Status::Read);
+    EXPECT_EQ(kept->Buttons[1].cursorId, "cur");
+    EXPECT_EQ(kept->AppSettings.splashEnabled, 2);
+    EXPECT_EQ(kept->AppSettings.splashImagePath, "null");
+    // Everything else as Open reads it.
+    kept->Buttons[1].cursorId = "null";
+    kept->AppSettings.splashEnabled = 0;
+    EXPECT_TRUE(*kept == *dropped);
+    EXPECT_EQ(projectFileBytes(*kept), projectFileBytes(*dropped));
+}
+
 TEST(ProjectReader, HotSpotCursorDoesNotSurviveSaveAndReload)
 {
     auto doc = makeDocument();

@@ -337,12 +337,19 @@ TEST(ProjectWriter, ApplicationLinesAndNumbersAtTheLimitsOfTheirFields)
               std::string::npos);
 }
 
-TEST(ProjectWriter, TextsAreWrittenInWindows1252WithUnrepresentableCharactersAsQuestionMarks)
+TEST(ProjectWriter, TextsAreWrittenInWindows1252WhileEveryCharacterFitsIt)
+{
+    auto doc = makeDocument();
+    doc->ProjectInfo.projectName = "Caf\xC3\xA9 \xE2\x82\xAC"; // "Café €"
+    EXPECT_EQ(projectFileBytes(*doc).substr(0, 10), "\"Caf\xE9 \x80\"\r\n");
+}
+
+TEST(ProjectWriter, ACharacterOutsideWindows1252MakesTheFileUtf8NotAQuestionMark)
 {
     auto doc = makeDocument();
     doc->ProjectInfo.projectName = "Caf\xC3\xA9 \xE2\x82\xAC \xE6\x97\xA5"; // "Café € 日"
     const std::string bytes = projectFileBytes(*doc);
-    EXPECT_EQ(bytes.substr(0, 12), "\"Caf\xE9 \x80 ?\"\r\n");
+    EXPECT_EQ(bytes.substr(0, 20), "\xEF\xBB\xBF\"Caf\xC3\xA9 \xE2\x82\xAC \xE6\x97\xA5\"\r\n");
 }
 
 TEST(ProjectWriter, TextRecordsBeginWithTheirContent)

@@ -24,6 +24,7 @@
 #include "frmLogCustom.h"
 #include "frmLogFile.h"
 #include "frmLogType.h"
+#include "TextLength.h"
 
 #include <QCloseEvent>
 #include <QCoreApplication>
@@ -63,6 +64,7 @@ frmMain::frmMain(Document &doc, UserInterface &userInterface, QWidget *parent)
     , m_openUrl([](const QUrl &url) { return QDesktopServices::openUrl(url); })
 {
     m_ui.setupUi(this);
+    allowAnyLength(this);
     for (int tab = 0; tab <= TabCount; ++tab)
         m_tabs[static_cast<size_t>(tab)] =
             findChild<QFrame *>(QStringLiteral("fraTab_%1").arg(tab));
@@ -429,7 +431,7 @@ void frmMain::mnuCheckProject_Click()
 
 void frmMain::mnuGenDataAs_Click()
 {
-    generateDataAs(m_doc, m_generateState, m_userInterface, progress());
+    showGenerated(generateDataAs(m_doc, m_generateState, m_userInterface, progress()));
     listsChanged();
     // Once a folder has been chosen, Generate Data may run again into it.
     if (m_generateState.generateAgainAvailable)
@@ -440,8 +442,14 @@ void frmMain::mnuGenData_Click()
 {
     if (!m_generateState.generateAgainAvailable)
         return;
-    generateDataAgain(m_doc, m_generateState, m_userInterface, progress());
+    showGenerated(generateDataAgain(m_doc, m_generateState, m_userInterface, progress()));
     listsChanged();
+}
+
+void frmMain::showGenerated(const GenerateResult &result)
+{
+    if (result.outcome == GenerateOutcome::Generated)
+        statusBar()->showMessage(qs(generatedText(result.filesWritten, result.folder)));
 }
 
 void frmMain::mnuExit_Click()

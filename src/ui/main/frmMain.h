@@ -19,6 +19,7 @@ class UserInterface;
 class frmProgress;
 class ProblemsPanel;
 class Registry;
+struct GenerateResult;
 struct QuickStats;
 
 // The main window: the tab strip with one page per kind of data, the object lists, the
@@ -103,6 +104,8 @@ private:
     // After a Save: what the saved file would not carry back, and what of the previous file
     // could not be kept, in the problems panel and the status line.
     void showSaveProblems(const std::vector<std::string> &notices);
+    // Says in the status bar what a generation wrote, and where.
+    void showGenerated(const GenerateResult &result);
     // Shows every list again after Open, Save or Generate changed them.
     void listsChanged();
 
