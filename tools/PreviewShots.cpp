@@ -1,25 +1,33 @@
 // Pictures of the editors for the manual: opens the example project and saves the image,
-// sprite, animation and scene editors, their previews and the custom filter window as PNGs in
-// docs/images. Run from the repository's folder under a display (scripts use xvfb-run), as
+// sprite, animation, scene, button, cursor and text editors, their previews and the custom
+// filter window as PNGs in docs/images. Run from the repository's folder under a display
+// (scripts use xvfb-run), as
 //     build/dev/vorlane-preview-shots
 #include "AnimationPlayer.h"
 #include "ImageSheetView.h"
 #include "ScenePreview.h"
 #include "QtUserInterface.h"
+#include "SceneCanvas.h"
 #include "frmAnim.h"
+#include "frmButton.h"
+#include "frmCursor.h"
 #include "frmImage.h"
 #include "frmLogCustom.h"
 #include "frmScene.h"
 #include "frmSprite.h"
+#include "frmText.h"
 #include "model/Kinds.h"
 #include "project/Open.h"
 #include "rules/PictureSpec.h"
 #include "rules/ProgressSink.h"
 
 #include <QApplication>
+#include <QCheckBox>
 #include <QElapsedTimer>
 #include <QLineEdit>
+#include <QListWidget>
 #include <QPushButton>
+#include <QRadioButton>
 #include <QTest>
 
 #include <cstdio>
@@ -89,7 +97,41 @@ int main(int argc, char **argv)
     sceneEditor.Form_Load();
     save(sceneEditor, "docs/images/scene-editor-preview.png");
     savePart(*sceneEditor.form().picScenePreview, "docs/images/preview-scene.png");
+    // The "Play" button's layer selected, "Snap to 8 px" checked, the pointer over the hero.
+    sceneEditor.form().lstSceneLayers->setCurrentRow(3);
+    sceneEditor.form().picScenePreview->snapBox()->setChecked(true);
+    SceneCanvas *canvas = sceneEditor.form().picScenePreview->canvas();
+    QTest::mouseMove(canvas, canvas->objectRect(2).center());
+    save(sceneEditor, "docs/images/scene-editor-drag.png");
     sceneEditor.hide();
+
+    doc->currentObjectIndex = static_cast<int16_t>(slotOf(*doc, Kind::Button, "btnPlay"));
+    frmButton button(*doc);
+    button.Form_Load();
+    button.form().optButtonOver->setChecked(true);
+    save(button, "docs/images/button-editor-sheet.png");
+    button.hide();
+
+    doc->currentObjectIndex = static_cast<int16_t>(slotOf(*doc, Kind::Cursor, "curArrow"));
+    frmCursor cursor(*doc);
+    cursor.Form_Load();
+    save(cursor, "docs/images/cursor-editor-preview.png");
+    cursor.hide();
+
+    // The "Play" text in the example's font, given a clip rectangle, a background and
+    // characters the engine cannot read back, to show each; none of it is saved.
+    doc->currentObjectIndex = static_cast<int16_t>(slotOf(*doc, Kind::Text, "txtPlay"));
+    TextRec &play = doc->Texts[static_cast<size_t>(doc->currentObjectIndex)];
+    play.content = "Play * Jouer \u2192";
+    play.backRed = 40;
+    play.backGreen = 60;
+    play.backBlue = 120;
+    play.clipWidth = 150;
+    play.clipHeight = 30;
+    frmText text(*doc);
+    text.Form_Load();
+    save(text, "docs/images/text-editor-preview.png");
+    text.hide();
 
     frmLogCustom custom(*doc, ui);
     custom.Form_Load();

@@ -173,4 +173,9 @@ std::string toUtf8(std::string_view cp1252)
     return out;
 }
 
+bool cp1252Holds(char32_t cp)
+{
+    return cp == '?' || byteOf(cp) != '?';
+}
+
 } // namespace vorlane

@@ -26,6 +26,9 @@ std::vector<std::string> charactersOutsideCp1252(std::string_view utf8);
 void appendCleanUtf8(std::string &out, std::string_view utf8);
 
 std::string toCp1252(std::string_view utf8);
+
+// Whether Windows-1252 holds the character `cp` (so that it is not written as "?").
+bool cp1252Holds(char32_t cp);
 std::string toUtf8(std::string_view cp1252);
 
 } // namespace vorlane

@@ -24,4 +24,16 @@ inline constexpr std::array<CursorOrientation, 5> CursorOrientations{
 // "null" once the image list is filled) and the "Center" orientation.
 void setCursorDefaults(CursorRec &cursor);
 
+// The pixel of a picture of `width` x `height` that orientation `code` makes the hot point:
+// its centre (1), or the corner pixel of the lower-left (2), lower-right (3), upper-right (4)
+// or upper-left (5) corner. Any other code is taken as the centre.
+struct HotPoint
+{
+    int x = 0;
+    int y = 0;
+
+    bool operator==(const HotPoint &) const = default;
+};
+HotPoint cursorHotPoint(int code, int width, int height);
+
 } // namespace vorlane

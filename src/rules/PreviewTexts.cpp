@@ -53,4 +53,32 @@ std::string delayText(int frameDelay)
     return "Frame delay: " + std::to_string(frameDelay) + " ms";
 }
 
+std::string fontLoadedText(std::string_view family, std::string_view storedPath)
+{
+    return "Font: " + std::string(family) + " (" + quoted(storedPath) + ")";
+}
+
+std::string defaultFontText(std::string_view fontId,
+                            bool fontListed,
+                            std::string_view storedPath,
+                            std::string_view file)
+{
+    const std::string why = !fontListed ? noObjectText("font", fontId)
+                            : file.empty()
+                                ? noFileText()
+                                : "The font file cannot be loaded: " + quoted(storedPath) +
+                                      " (looked for " + std::string(file) + ")";
+    return why + "; the default font is drawn instead";
+}
+
+std::string terminatorText()
+{
+    return "\"*\" ends a text in the engine's files: the engine stops reading there";
+}
+
+std::string notCp1252Text(std::string_view characters)
+{
+    return "The engine cannot read " + quoted(characters) + ": written as \"?\"";
+}
+
 } // namespace vorlane

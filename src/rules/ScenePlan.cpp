@@ -92,18 +92,7 @@ void describe(const Document &doc, int slot, SceneItem &item)
         item.x = text.x;
         item.y = text.y;
         item.visible = text.visible != 0;
-        item.content = text.content == "null" ? std::string() : text.content;
-        item.pointSize = text.pointSize;
-        item.foreRed = text.foreRed;
-        item.foreGreen = text.foreGreen;
-        item.foreBlue = text.foreBlue;
-        item.bold = text.styleBold == 1;
-        item.italic = text.styleItalic == 1;
-        item.underline = text.styleUnderline == 1;
-        if (const std::optional<int> font = findListedObject(doc, Kind::Font, text.fontId)) {
-            item.fontStoredPath = doc.Fonts[static_cast<size_t>(*font)].path;
-            item.fontFile = resolveObjectPath(doc, item.fontStoredPath);
-        }
+        static_cast<TextLook &>(item) = textLookOf(doc, text);
         return;
     }
     default:

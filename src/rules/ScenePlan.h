@@ -2,6 +2,7 @@
 
 #include "model/modGlobal.h"
 #include "rules/PictureSpec.h"
+#include "rules/TextLook.h"
 
 #include <optional>
 #include <string>
@@ -32,7 +33,8 @@ enum class SceneItemKind {
     Missing, // the layer names no listed object of its kind, or a kind that does not exist
 };
 
-struct SceneItem
+// Texts draw with the look they take from their record.
+struct SceneItem : TextLook
 {
     int layerSlot = 0;
     int16_t objectKind = 0;
@@ -51,17 +53,6 @@ struct SceneItem
     // Hot spots.
     int width = 0;
     int height = 0;
-    // Texts.
-    std::string content;
-    std::string fontStoredPath;
-    std::optional<std::string> fontFile;
-    int pointSize = 0;
-    int foreRed = 0;
-    int foreGreen = 0;
-    int foreBlue = 0;
-    bool bold = false;
-    bool italic = false;
-    bool underline = false;
 };
 
 // The layer slots the engine reads: the used ones in slot order, when layerCount is above 0.

@@ -13,6 +13,18 @@ TEST(Cp1252, EveryByteRoundTripsThroughUtf8)
     EXPECT_EQ(toCp1252(toUtf8(all)), all);
 }
 
+TEST(Cp1252, TellsWhichCharactersItHolds)
+{
+    EXPECT_TRUE(cp1252Holds(U'a'));
+    EXPECT_TRUE(cp1252Holds(U'?'));
+    EXPECT_TRUE(cp1252Holds(0x20AC)); // euro sign, byte 0x80
+    EXPECT_TRUE(cp1252Holds(0xE9));
+    EXPECT_TRUE(cp1252Holds(0x81)); // an unassigned byte stands for itself
+    EXPECT_FALSE(cp1252Holds(0x4E2D));
+    EXPECT_FALSE(cp1252Holds(0x0100));
+    EXPECT_FALSE(cp1252Holds(0x1F600));
+}
+
 TEST(Cp1252, ConvertsTheSpecialRange)
 {
     EXPECT_EQ(toUtf8("\x80"), "\xE2\x82\xAC"); // euro sign

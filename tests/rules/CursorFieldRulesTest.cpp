@@ -25,6 +25,17 @@ TEST(CursorFieldRules, OrientationCodesAreFixedAndNotInScreenOrder)
     }
 }
 
+TEST(CursorFieldRules, HotPointIsTheCentreOrTheCornerPixel)
+{
+    EXPECT_EQ(cursorHotPoint(1, 32, 20), (HotPoint{16, 10}));
+    EXPECT_EQ(cursorHotPoint(2, 32, 20), (HotPoint{0, 19}));
+    EXPECT_EQ(cursorHotPoint(3, 32, 20), (HotPoint{31, 19}));
+    EXPECT_EQ(cursorHotPoint(4, 32, 20), (HotPoint{31, 0}));
+    EXPECT_EQ(cursorHotPoint(5, 32, 20), (HotPoint{0, 0}));
+    EXPECT_EQ(cursorHotPoint(0, 32, 20), (HotPoint{16, 10}));
+    EXPECT_EQ(cursorHotPoint(3, 0, 0), (HotPoint{0, 0}));
+}
+
 TEST(CursorFieldRules, NewCursorDefaults)
 {
     CursorRec cursor;

@@ -30,5 +30,24 @@ TEST(PreviewTexts, SheetAndDelay)
     EXPECT_EQ(delayText(120), "Frame delay: 120 ms");
 }
 
+TEST(PreviewTexts, FontAndMarks)
+{
+    EXPECT_EQ(fontLoadedText("DejaVu Sans", "fonts\\menu.ttf"),
+              "Font: DejaVu Sans (\"fonts\\menu.ttf\")");
+    EXPECT_EQ(defaultFontText("null", false, "", ""),
+              "No font chosen; the default font is drawn instead");
+    EXPECT_EQ(defaultFontText("fntGone", false, "", ""),
+              "No font named \"fntGone\"; the default font is drawn instead");
+    EXPECT_EQ(defaultFontText("fntMenu", true, "null", ""),
+              "No file: the path is empty; the default font is drawn instead");
+    EXPECT_EQ(defaultFontText("fntMenu", true, "menu.ttf", "/games/menu.ttf"),
+              "The font file cannot be loaded: \"menu.ttf\" (looked for /games/menu.ttf); the "
+              "default font is drawn instead");
+    EXPECT_EQ(terminatorText(),
+              "\"*\" ends a text in the engine's files: the engine stops reading there");
+    EXPECT_EQ(notCp1252Text("\xE2\x86\x92"),
+              "The engine cannot read \"\xE2\x86\x92\": written as \"?\"");
+}
+
 } // namespace
 } // namespace vorlane

@@ -1,6 +1,7 @@
 #include "frmAnim.h"
 
 #include "AnimationPlayer.h"
+#include "CellSheet.h"
 #include "ObjectListView.h"
 #include "frmSprite.h"
 #include "rules/AnimationTimeline.h"
@@ -106,15 +107,38 @@ void frmAnim::connectPreview()
     connect(m_ui.chkAnimRepeat, &QCheckBox::toggled, this, &frmAnim::showPreview);
     connect(m_ui.optAnimDirectionForward, &QRadioButton::toggled, this, &frmAnim::showPreview);
     connect(m_ui.optAnimDirectionReverse, &QRadioButton::toggled, this, &frmAnim::showPreview);
+    CellSheet *sheet = m_ui.picAnimSheet;
+    connect(sheet, &CellSheet::cellClicked, this, &frmAnim::picAnimSheet_CellClicked);
+    connect(sheet, &CellSheet::cellDoubleClicked, this, &frmAnim::picAnimSheet_CellDoubleClicked);
+    connect(m_ui.picAnimPlayer,
+            &AnimationPlayer::shownCellChanged,
+            sheet,
+            &CellSheet::setHighlightedCell);
+}
+
+void frmAnim::picAnimSheet_CellClicked(int cell)
+{
+    m_ui.txtAnimSequenceAdd->setText(QString::number(cell));
+}
+
+void frmAnim::picAnimSheet_CellDoubleClicked(int cell)
+{
+    picAnimSheet_CellClicked(cell);
+    if (m_ui.cmdAnimSequenceAdd->isEnabled())
+        m_ui.cmdAnimSequenceAdd->click();
 }
 
 void frmAnim::showPreview()
 {
     AnimationPlayer *player = m_ui.picAnimPlayer;
     const std::optional<int> image = findListedObject(document(), Kind::Image, m_sprite.imageId);
-    player->setPicture(image ? pictureOf(document(), document().Images[static_cast<size_t>(*image)])
-                             : PictureSpec{});
+    const PictureSpec picture =
+        image ? pictureOf(document(), document().Images[static_cast<size_t>(*image)])
+              : PictureSpec{};
+    player->setPicture(picture);
     const std::vector<int16_t> cells = animationCells(m_anim);
+    m_ui.picAnimSheet->setPicture(picture);
+    m_ui.picAnimSheet->setMarkedCells(std::vector<int>(cells.begin(), cells.end()));
     player->setSequence(cells, timingOf(m_anim, static_cast<int>(cells.size())));
     int still = 0;
     if (m_rows.selected >= 0 && static_cast<size_t>(m_rows.selected) < m_rows.lines.size()) {

@@ -27,6 +27,9 @@ public:
     void cmdAnimSequenceDelete_Click();
     void cmdAnimSequenceUp_Click();
     void cmdAnimSequenceDown_Click();
+    // A cell picked on the sheet goes into the Frame box as if typed; a double click adds it.
+    void picAnimSheet_CellClicked(int cell);
+    void picAnimSheet_CellDoubleClicked(int cell);
 
     AnimRec &record() { return m_anim; }
     const ObjectList &sequenceRows() const { return m_rows; }

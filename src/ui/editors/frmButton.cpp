@@ -1,12 +1,15 @@
 #include "frmButton.h"
 
+#include "CellSheet.h"
 #include "CellView.h"
 #include "frmMain.h"
 #include "rules/ButtonFieldRules.h"
 #include "rules/FieldRules.h"
 #include "rules/PictureSpec.h"
 #include "rules/PreviewTexts.h"
+#include "rules/TextLook.h"
 
+#include <QCheckBox>
 #include <QSignalBlocker>
 
 #include <cstddef>
@@ -49,6 +52,30 @@ frmButton::frmButton(Document &doc, frmMain *mainWindow, QWidget *parent)
                                  m_ui.optButton,
                                  m_ui.optHotspot})
         connect(option, &QRadioButton::toggled, this, &frmButton::showTemplateCell);
+    for (QComboBox *box : {m_ui.cmbButtonIcon, m_ui.cmbButtonCaption}) {
+        connect(box, &QComboBox::editTextChanged, this, &frmButton::showTemplateCell);
+        connect(box, &QComboBox::activated, this, &frmButton::showTemplateCell);
+    }
+    for (QCheckBox *box : {m_ui.chkButtonIconVisible, m_ui.chkButtonCaptionVisible})
+        connect(box, &QCheckBox::toggled, this, &frmButton::showTemplateCell);
+    connect(
+        m_ui.picButtonSheet, &CellSheet::cellClicked, this, &frmButton::picButtonSheet_CellClicked);
+}
+
+void frmButton::picButtonSheet_CellClicked(int cell)
+{
+    const std::pair<QRadioButton *, QLineEdit *> states[] = {
+        {m_ui.optButtonUp, m_ui.txtButtonUp},
+        {m_ui.optButtonOver, m_ui.txtButtonOver},
+        {m_ui.optButtonDown, m_ui.txtButtonDown},
+        {m_ui.optButtonDisabled, m_ui.txtButtonDisabled}};
+    for (const auto &[option, box] : states) {
+        if (option->isChecked()) {
+            if (box->isEnabled())
+                box->setText(QString::number(cell));
+            return;
+        }
+    }
 }
 
 void frmButton::newRecordDefaults()
@@ -163,18 +190,30 @@ void frmButton::showType()
 void frmButton::showTemplateCell()
 {
     CellView *view = m_ui.picButtonCell;
+    CellSheet *sheet = m_ui.picButtonSheet;
     if (m_button.isHotSpot != 0) {
         view->showNote(tr("A hot spot has no template"));
+        sheet->showNote(tr("A hot spot has no template"));
         return;
     }
     const std::optional<int> image = findListedObject(document(), Kind::Image, m_button.templateId);
     if (!image) {
+        const QString note = QString::fromStdString(noObjectText("image", m_button.templateId));
         view->setPicture(PictureSpec{});
-        view->showNote(QString::fromStdString(noObjectText("image", m_button.templateId)));
+        view->showNote(note);
+        sheet->setPicture(PictureSpec{});
+        sheet->showNote(note);
         return;
     }
-    view->setPicture(pictureOf(document(), document().Images[static_cast<size_t>(*image)]));
+    const PictureSpec picture =
+        pictureOf(document(), document().Images[static_cast<size_t>(*image)]);
+    view->setPicture(picture);
     view->setTemplateCells(m_button.templateRows, m_button.templateColumns);
+    sheet->setPicture(picture);
+    sheet->setTemplateCells(m_button.templateRows, m_button.templateColumns);
+    sheet->setMarkedCells(
+        {m_button.frameUp, m_button.frameOver, m_button.frameDown, m_button.frameDisabled});
+    showDecoration();
     const std::pair<QRadioButton *, ButtonState> states[] = {
         {m_ui.optButtonUp, ButtonState::Up},
         {m_ui.optButtonOver, ButtonState::Over},
@@ -183,10 +222,43 @@ void frmButton::showTemplateCell()
     for (const auto &[option, state] : states) {
         if (option->isChecked()) {
             view->setCell(stateCell(m_button, state), option->text());
+            sheet->setHighlightedCell(stateCell(m_button, state));
             return;
         }
     }
     view->setCell(m_button.currentFrame, tr("Current frame"));
+    sheet->setHighlightedCell(m_button.currentFrame);
+}
+
+void frmButton::showDecoration()
+{
+    QImage icon;
+    if (m_button.iconVisible == 1) {
+        if (const std::optional<int> image =
+                findListedObject(document(), Kind::Image, m_button.iconId)) {
+            const PictureSpec spec =
+                pictureOf(document(), document().Images[static_cast<size_t>(*image)]);
+            if (spec.file != m_iconSpec.file || m_icon.isNull())
+                m_icon = PreviewPicture::load(spec);
+            else if (!(spec == m_iconSpec))
+                m_icon = m_icon.rekeyed(spec);
+            m_iconSpec = spec;
+            // An icon cut into cells shows its first.
+            const QImage &whole = m_icon.image();
+            const std::optional<CellRect> first = cellRect(
+                gridOfCells(whole.width(), whole.height(), spec.cellWidth, spec.cellHeight),
+                FirstCell);
+            if (first)
+                icon = whole.copy(first->x, first->y, first->width, first->height);
+        }
+    }
+    std::optional<TextLook> caption;
+    if (m_button.captionVisible == 1) {
+        if (const std::optional<int> text =
+                findListedObject(document(), Kind::Text, m_button.captionTextId))
+            caption = textLookOf(document(), document().Texts[static_cast<size_t>(*text)]);
+    }
+    m_ui.picButtonCell->setDecoration(icon, caption);
 }
 
 void frmButton::optHotspot_Click()

@@ -1,7 +1,9 @@
 #pragma once
 
 #include "EditorForm.h"
+#include "PreviewPicture.h"
 #include "model/modGlobal.h"
+#include "rules/PictureSpec.h"
 
 #include "ui_frmButton.h"
 
@@ -21,6 +23,8 @@ public:
     // Event handlers of the type switch.
     void optButton_Click();
     void optHotspot_Click();
+    // A cell picked on the template sheet goes into the box of the chosen state, as if typed.
+    void picButtonSheet_CellClicked(int cell);
 
     ButtonRec &record() { return m_button; }
     const Ui::frmButton &form() const { return m_ui; }
@@ -32,6 +36,8 @@ private:
     void declareBindings();
     void showType();
     void showTemplateCell();
+    // The icon and the caption text drawn over the state's cell, when they are found.
+    void showDecoration();
     std::vector<QWidget *> graphicOnlyControls() const;
 
     Ui::frmButton m_ui;
@@ -42,6 +48,8 @@ private:
     TextBinding *m_up = nullptr;
     TextBinding *m_disabled = nullptr;
     ListBinding *m_template = nullptr;
+    PictureSpec m_iconSpec;
+    PreviewPicture m_icon;
 };
 
 } // namespace vorlane

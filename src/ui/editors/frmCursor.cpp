@@ -1,8 +1,11 @@
 #include "frmCursor.h"
 
+#include "CursorPreview.h"
+
 #include "frmMain.h"
 #include "rules/CursorFieldRules.h"
 #include "rules/FieldRules.h"
+#include "rules/PictureSpec.h"
 
 #include <QRadioButton>
 
@@ -24,6 +27,27 @@ frmCursor::frmCursor(Document &doc, frmMain *mainWindow, QWidget *parent)
     for (const CursorOrientation &orientation : CursorOrientations)
         options.emplace_back(orientationOption(orientation.code), orientation.code);
     bindOptions(std::move(options), m_cursor.orientation);
+
+    // Connected after the bindings, so the record already holds what was chosen.
+    m_preview = new CursorPreview(this);
+    m_ui.vlCursor->addWidget(m_preview, 1);
+    loadStep([this]() { showPreview(); });
+    connect(m_ui.cmbCursorImage, &QComboBox::editTextChanged, this, &frmCursor::showPreview);
+    connect(m_ui.cmbCursorImage, &QComboBox::activated, this, &frmCursor::showPreview);
+    for (const CursorOrientation &orientation : CursorOrientations)
+        connect(orientationOption(orientation.code),
+                &QRadioButton::toggled,
+                this,
+                &frmCursor::showPreview);
+}
+
+void frmCursor::showPreview()
+{
+    const std::optional<int> image = findListedObject(document(), Kind::Image, m_cursor.imageId);
+    m_preview->setPicture(
+        image ? pictureOf(document(), document().Images[static_cast<size_t>(*image)])
+              : PictureSpec{});
+    m_preview->setOrientation(m_cursor.orientation);
 }
 
 QRadioButton *frmCursor::orientationOption(int code) const

@@ -9,6 +9,7 @@ class QRadioButton;
 
 namespace vorlane {
 
+class CursorPreview;
 class frmMain;
 
 // The cursor editor: one CursorRec, the bound image the mouse cursor shows and which point
@@ -29,8 +30,12 @@ protected:
     void newRecordDefaults() override;
 
 private:
+    // The cursor's picture with its hot point, beside the options. It only reads the records.
+    void showPreview();
+
     Ui::frmCursor m_ui;
     CursorRec &m_cursor;
+    CursorPreview *m_preview = nullptr;
 };
 
 } // namespace vorlane

@@ -1,5 +1,6 @@
 #include "frmScene.h"
 
+#include "SceneCanvas.h"
 #include "ScenePreview.h"
 #include "frmMain.h"
 #include "rules/UserInterface.h"
@@ -94,6 +95,10 @@ void frmScene::connectHandlers()
             &ScenePreview::layerClicked,
             this,
             &frmScene::picScenePreview_LayerClicked);
+    SceneCanvas *canvas = m_ui.picScenePreview->canvas();
+    connect(canvas, &SceneCanvas::dragStarted, this, &frmScene::picScenePreview_DragStarted);
+    connect(canvas, &SceneCanvas::dragMoved, this, &frmScene::picScenePreview_DragMoved);
+    connect(canvas, &SceneCanvas::dragFinished, this, &frmScene::picScenePreview_DragFinished);
 
     connect(m_ui.cmdSceneLayerAdd, &QPushButton::clicked, this, &frmScene::cmdSceneLayerAdd_Click);
     connect(m_ui.cmdSceneLayerDelete,
@@ -126,6 +131,54 @@ void frmScene::showPreview()
     for (const ListLine &line : m_layers.lines)
         listed.push_back(line.slot);
     m_ui.picScenePreview->setScene(document(), m_scene, std::move(listed));
+    m_ui.picScenePreview->canvas()->setSelectedLayer(selectedLayerSlot());
+}
+
+int frmScene::selectedLayerSlot() const
+{
+    if (m_layers.selected < 0 || static_cast<size_t>(m_layers.selected) >= m_layers.lines.size())
+        return -1;
+    return m_layers.lines[static_cast<size_t>(m_layers.selected)].slot;
+}
+
+void frmScene::picScenePreview_DragStarted(int layerSlot)
+{
+    m_dragFields.reset();
+    if (layerSlot < 0 || layerSlot > LastLayerSlot)
+        return;
+    m_dragFields = layerPosition(document(), m_scene.layers[static_cast<size_t>(layerSlot)]);
+    if (!m_dragFields)
+        return;
+    m_dragStart = m_dragFields->point();
+    cutHistoryStep({});
+}
+
+void frmScene::picScenePreview_DragMoved(int, const QPoint &screenDelta)
+{
+    if (!m_dragFields)
+        return;
+    const ScenePoint to = droppedAt(m_dragStart,
+                                    ScenePoint{screenDelta.x(), screenDelta.y()},
+                                    m_ui.picScenePreview->snapToGrid());
+    if (placeAt(*m_dragFields, to))
+        showPreview();
+}
+
+void frmScene::picScenePreview_DragFinished(int layerSlot)
+{
+    if (!m_dragFields)
+        return;
+    const bool moved = !(m_dragFields->point() == m_dragStart);
+    m_dragFields.reset();
+    if (moved)
+        cutHistoryStep(moveStepName(m_scene.layers[static_cast<size_t>(layerSlot)]));
+}
+
+void frmScene::cutHistoryStep(const std::string &name)
+{
+    // The main window's history is cut here (frmMain::history().cutStep(name)) once the
+    // main window keeps one; without a main window there is no history.
+    (void)name;
 }
 
 void frmScene::picScenePreview_LayerClicked(int layerSlot)
@@ -228,6 +281,7 @@ void frmScene::lstSceneLayers_Click()
             caption = layerTypeCaption(m_scene.layers[static_cast<size_t>(slot)].objectKind);
     }
     m_ui.lblSceneLayerType->setText(QString::fromStdString(caption));
+    m_ui.picScenePreview->canvas()->setSelectedLayer(selectedLayerSlot());
     applyButtons(buttonsAfterSelection(m_layers));
 }
 

@@ -2,6 +2,7 @@
 
 #include "EditorForm.h"
 #include "model/modGlobal.h"
+#include "rules/ScenePlacement.h"
 #include "rules/SceneRules.h"
 
 #include "ui_frmScene.h"
@@ -48,11 +49,24 @@ private:
     void showPreview();
     // Selects the line of the layer whose object was clicked in the preview.
     void picScenePreview_LayerClicked(int layerSlot);
+    // A drag in the preview moves the layer's object: its own position fields change.
+    void picScenePreview_DragStarted(int layerSlot);
+    void picScenePreview_DragMoved(int layerSlot, const QPoint &screenDelta);
+    void picScenePreview_DragFinished(int layerSlot);
+    // Where a step of the main window's history is cut: with no name when a drag begins
+    // (what came before is recorded apart), with the drag's name when it ends, so that the
+    // drag is one step of its own.
+    void cutHistoryStep(const std::string &name);
+    // The slot of the selected line's layer; -1 for none.
+    int selectedLayerSlot() const;
 
     Ui::frmScene m_ui;
     SceneRec &m_scene;
     LayerList m_layers;
     bool m_mirroring = false;
+    // The drag under way: the object's position fields and where it stood at the press.
+    std::optional<PositionFields> m_dragFields;
+    ScenePoint m_dragStart;
 };
 
 } // namespace vorlane

@@ -1,10 +1,14 @@
 #include "frmText.h"
 
 #include "DropTarget.h"
+#include "TextPreview.h"
 #include "frmMain.h"
 #include "rules/FieldRules.h"
+#include "rules/TextLook.h"
 
 #include <QCheckBox>
+#include <QComboBox>
+#include <QLineEdit>
 #include <QRadioButton>
 #include <QSignalBlocker>
 
@@ -48,6 +52,22 @@ frmText::frmText(Document &doc, frmMain *mainWindow, QWidget *parent)
     bindNumber(m_ui.txtTextPoint, t.pointSize, numberWithEmptyText(std::string(EmptyPointSize)));
 
     new DropTarget(m_ui.fraTextFontID, [this]() { fraTextFontID_DragDrop(); });
+
+    // Connected after the bindings, so the record already holds every change.
+    m_preview = new TextPreview(this);
+    m_ui.vlTextRight->addWidget(m_preview, 1);
+    loadStep([this]() { showPreview(); });
+    for (QLineEdit *box : findChildren<QLineEdit *>())
+        connect(box, &QLineEdit::textChanged, this, &frmText::showPreview);
+    for (QCheckBox *box : findChildren<QCheckBox *>())
+        connect(box, &QCheckBox::toggled, this, &frmText::showPreview);
+    for (QComboBox *box : findChildren<QComboBox *>())
+        connect(box, &QComboBox::activated, this, &frmText::showPreview);
+}
+
+void frmText::showPreview()
+{
+    m_preview->setLook(textLookOf(document(), m_text));
 }
 
 QRadioButton *frmText::typeOption(int code) const

@@ -11,6 +11,7 @@ class QRadioButton;
 
 namespace vorlane {
 
+class TextPreview;
 class frmMain;
 
 // The text editor: one TextRec, a piece of text with its font, position, colours, styles,
@@ -36,9 +37,12 @@ protected:
 
 private:
     void styleClicked(TextStyle style);
+    // The text as the engine draws it, beside the boxes. It only reads the records.
+    void showPreview();
 
     Ui::frmText m_ui;
     TextRec &m_text;
+    TextPreview *m_preview = nullptr;
 };
 
 } // namespace vorlane

@@ -108,6 +108,7 @@ void AnimationPlayer::tick()
     }
     m_view->setCell(m_cells[static_cast<size_t>(m_index)],
                     tr("Frame %1 of %2").arg(m_index + 1).arg(m_cells.size()));
+    emit shownCellChanged(m_cells[static_cast<size_t>(m_index)]);
     // A sequence played once stays on its last frame, and the button offers to play again.
     if (at.finished) {
         m_playing = false;
@@ -175,6 +176,7 @@ void AnimationPlayer::showStill()
         m_view->setCell(m_stillCell, tr("Stopped"));
     else
         m_view->showNote(tr("Stopped: no frame chosen"));
+    emit shownCellChanged(std::max(m_stillCell, 0));
 }
 
 } // namespace vorlane

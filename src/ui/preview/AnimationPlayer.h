@@ -58,6 +58,10 @@ public:
     QSize minimumSizeHint() const override;
     QSize sizeHint() const override;
 
+signals:
+    // The cell now shown, playing or stopped; 0 when none is.
+    void shownCellChanged(int cell);
+
 private:
     // The smallest side of the player, and the widest number its texts show.
     static constexpr int SmallestSide = 200;

@@ -1,6 +1,7 @@
 #include "CellView.h"
 
 #include "PreviewPainting.h"
+#include "TextPainting.h"
 #include "rules/PreviewTexts.h"
 
 #include <QLabel>
@@ -80,6 +81,32 @@ QImage CellView::cellImage() const
     return m_picture.image().copy(r->x, r->y, r->width, r->height);
 }
 
+void CellView::setDecoration(const QImage &icon, const std::optional<TextLook> &caption)
+{
+    m_icon = icon;
+    m_captionText = caption;
+    update();
+}
+
+QImage CellView::composedCell() const
+{
+    QImage cell = cellImage();
+    if (cell.isNull() || (m_icon.isNull() && !m_captionText))
+        return cell;
+    QPainter painter(&cell);
+    if (!m_icon.isNull()) {
+        const QPoint at((cell.width() - m_icon.width()) / 2, (cell.height() - m_icon.height()) / 2);
+        painter.drawImage(at, m_icon);
+    }
+    if (m_captionText && !m_captionText->content.empty()) {
+        painter.setFont(engineFont(*m_captionText));
+        painter.setPen(foreColour(*m_captionText));
+        painter.drawText(
+            cell.rect(), Qt::AlignCenter, QString::fromStdString(m_captionText->content));
+    }
+    return cell;
+}
+
 QString CellView::message() const
 {
     return m_message->text();
@@ -104,7 +131,7 @@ void CellView::refresh()
 void CellView::paintEvent(QPaintEvent *event)
 {
     QWidget::paintEvent(event);
-    const QImage cell = cellImage();
+    const QImage cell = composedCell();
     const QRect box = m_box->geometry();
     QPainter painter(this);
     if (cell.isNull()) {

@@ -3,6 +3,9 @@
 #include "PreviewPicture.h"
 #include "rules/CellGrid.h"
 #include "rules/PictureSpec.h"
+#include "rules/TextLook.h"
+
+#include <optional>
 
 #include <QWidget>
 
@@ -29,7 +32,14 @@ public:
     // A line shown in place of any cell (a hot spot has no template).
     void showNote(const QString &note);
 
+    // Drawn over the cell, centred: an icon, then a caption in its look. A null icon and no
+    // caption draw nothing.
+    void setDecoration(const QImage &icon, const std::optional<TextLook> &caption);
+
     int cell() const { return m_cell; }
+    // The cell with its icon and caption over it, at the cell's own size; null when no cell
+    // is shown.
+    QImage composedCell() const;
     // The cell's pixels as drawn, colour key and alpha applied; null when there is none.
     QImage cellImage() const;
     QString message() const;
@@ -49,6 +59,8 @@ private:
     int m_cell = FirstCell;
     QString m_caption;
     QString m_note;
+    QImage m_icon;
+    std::optional<TextLook> m_captionText;
     QWidget *m_box = nullptr;
     QLabel *m_message = nullptr;
 };

@@ -101,27 +101,13 @@ QImage ImageSheetView::composed() const
     painter.setRenderHint(QPainter::SmoothPixmapTransform, false);
     painter.drawImage(out.rect(), image);
     // The grid and the numbers, over the picture.
-    painter.setPen(QColor(0, 160, 255));
-    QFont font = painter.font();
-    font.setPixelSize(10);
-    painter.setFont(font);
+    std::vector<QRect> cells;
     for (int cell = FirstCell; cell < FirstCell + m_grid.count(); ++cell) {
         const CellRect r = *cellRect(m_grid, cell);
-        const QRect area(
+        cells.emplace_back(
             int(r.x * scale), int(r.y * scale), int(r.width * scale), int(r.height * scale));
-        painter.setPen(QColor(0, 160, 255));
-        painter.drawRect(area.adjusted(0, 0, -1, -1));
-        const QString number = QString::number(cell);
-        const QRect label(area.left() + 1,
-                          area.top() + 1,
-                          painter.fontMetrics().horizontalAdvance(number) + 4,
-                          painter.fontMetrics().height());
-        if (label.width() < area.width() && label.height() < area.height()) {
-            painter.fillRect(label, QColor(0, 0, 0, 160));
-            painter.setPen(Qt::white);
-            painter.drawText(label, Qt::AlignCenter, number);
-        }
     }
+    paintCellNumbers(painter, cells);
     return out;
 }
 

@@ -36,4 +36,29 @@ void paintLabelledOutline(QPainter &painter,
     painter.restore();
 }
 
+void paintCellNumbers(QPainter &painter, const std::vector<QRect> &cells)
+{
+    painter.save();
+    QFont font = painter.font();
+    font.setPixelSize(10);
+    painter.setFont(font);
+    painter.setBrush(Qt::NoBrush);
+    for (size_t i = 0; i < cells.size(); ++i) {
+        const QRect &area = cells[i];
+        painter.setPen(QColor(0, 160, 255));
+        painter.drawRect(area.adjusted(0, 0, -1, -1));
+        const QString number = QString::number(i + 1);
+        const QRect label(area.left() + 1,
+                          area.top() + 1,
+                          painter.fontMetrics().horizontalAdvance(number) + 4,
+                          painter.fontMetrics().height());
+        if (label.width() < area.width() && label.height() < area.height()) {
+            painter.fillRect(label, QColor(0, 0, 0, 160));
+            painter.setPen(Qt::white);
+            painter.drawText(label, Qt::AlignCenter, number);
+        }
+    }
+    painter.restore();
+}
+
 } // namespace vorlane

@@ -4,6 +4,8 @@
 #include <QRect>
 #include <QString>
 
+#include <vector>
+
 class QPainter;
 
 namespace vorlane {
@@ -16,5 +18,9 @@ void paintLabelledOutline(QPainter &painter,
                           const QRect &area,
                           const QString &label,
                           const QColor &colour = QColor(255, 140, 0));
+
+// The frame of each cell and its number (cell 1 first) in its top-left corner, where the
+// number fits inside the cell.
+void paintCellNumbers(QPainter &painter, const std::vector<QRect> &cells);
 
 } // namespace vorlane
