@@ -293,6 +293,38 @@ private slots:
         QVERIFY2(project.contains("\r\n\"_zone\",380,48,"), project.constData());
     }
 
+    void aDragIsOneStepOfItsOwnThatUndoTakesBack()
+    {
+        addSceneObjects();
+        addObjectOn(*m_window, Kind::Scene);
+        clickTab(*m_window, tabOf(Kind::Scene));
+        QVERIFY(editProperties<frmScene>(*m_window, [](frmScene *editor) {
+            addLayer(editor, 3, 0); // Buttons: btnPlay
+            chooseZoom(editor, QStringLiteral("100%"));
+            dragLayer(editor, 0, QPoint(40, 24));
+            editor->close();
+        }));
+        QCOMPARE(m_doc->Buttons[0].x, int16_t(340));
+        QCOMPARE(m_doc->Buttons[0].y, int16_t(324));
+        QAction *undo = m_window->form().mnuUndo;
+        QAction *redo = m_window->form().mnuRedo;
+        QCOMPARE(undo->text(), QStringLiteral("Undo Move Button \"btnPlay\""));
+
+        undo->trigger();
+        // The move alone goes back: the layer added before the drag stays.
+        QCOMPARE(m_doc->Buttons[0].x, int16_t(300));
+        QCOMPARE(m_doc->Buttons[0].y, int16_t(300));
+        const SceneRec &scene = m_doc->Scenes[static_cast<size_t>(
+            m_doc->list(Kind::Scene).lines.back().slot)];
+        QCOMPARE(scene.layerCount, int16_t(1));
+        QCOMPARE(redo->text(), QStringLiteral("Redo Move Button \"btnPlay\""));
+        QVERIFY(undo->text().startsWith(QStringLiteral("Undo Edit Scene ")));
+
+        redo->trigger();
+        QCOMPARE(m_doc->Buttons[0].x, int16_t(340));
+        QCOMPARE(m_doc->Buttons[0].y, int16_t(324));
+    }
+
     void aClickWithoutMovingAndOpeningStoreNothing()
     {
         addSceneObjects();

@@ -176,9 +176,10 @@ void frmScene::picScenePreview_DragFinished(int layerSlot)
 
 void frmScene::cutHistoryStep(const std::string &name)
 {
-    // The main window's history is cut here (frmMain::history().cutStep(name)) once the
-    // main window keeps one; without a main window there is no history.
-    (void)name;
+    // A drag is a step of its own inside the editor's session; an editor opened without a
+    // main window has no history.
+    if (frmMain *main = mainWindow())
+        main->history().cutStep(name);
 }
 
 void frmScene::picScenePreview_LayerClicked(int layerSlot)
