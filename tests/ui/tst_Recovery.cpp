@@ -162,8 +162,23 @@ private slots:
     {
         m_window->startRecovery();
         newProject(*m_window, QStringLiteral("Demo"));
+        m_ui->fileChoices.push_back(path(QStringLiteral("demo.dvb")).toStdString());
+        m_window->mnuSaveAs_Click();
+        QVERIFY(!m_window->hasUnsavedChanges());
         m_window->recoveryKeeper()->poll();
         QVERIFY(!QFile::exists(ownFile()));
+    }
+
+    void aNewProjectNeverSavedIsKept()
+    {
+        // Closing a project that was never saved asks nothing: its state is what the file keeps.
+        m_window->startRecovery();
+        newProject(*m_window, QStringLiteral("Demo"));
+        QVERIFY(m_window->hasUnsavedChanges());
+        m_window->recoveryKeeper()->poll();
+        QVERIFY(QFile::exists(ownFile()));
+        QVERIFY(m_window->close());
+        QVERIFY(QFile::exists(ownFile()));
     }
 
     void savingRemovesTheFileAndAcleanCloseLeavesNone()
