@@ -1,6 +1,7 @@
 #include "project/ProjectCheck.h"
 
 #include "model/Kinds.h"
+#include "project/MissingFiles.h"
 #include "project/ProjectLayout.h"
 #include "rules/SceneRules.h"
 
@@ -100,6 +101,7 @@ public:
     {
         for (Kind kind : ListOrder)
             forEachListed(kind, [&](const auto &rec) { m_ids[index(kind)].insert(rec.id); });
+        m_object.reset();
     }
 
     std::vector<ProjectProblem> run()
@@ -118,6 +120,7 @@ public:
                 checkCarried(rec);
             });
         }
+        m_object.reset();
         checkCustomFilters();
         return std::move(m_problems);
     }
@@ -128,13 +131,14 @@ private:
     // Calls `f` with the record of every line of the list of `kind`, in list order, leaving
     // out new objects and lines whose slot lies outside the table.
     template<class F>
-    void forEachListed(Kind kind, F &&f) const
+    void forEachListed(Kind kind, F &&f)
     {
         withTable(m_doc, kind, [&](const auto &table) {
             for (const ListLine &line : m_doc.list(kind).lines) {
                 if (!slotInTable(kind, line.slot))
                     continue;
                 const auto &rec = table[static_cast<size_t>(line.slot)];
+                m_object = ObjectRef{kind, line.slot};
                 if (rec.isNew != -1)
                     f(rec);
             }
@@ -146,7 +150,7 @@ private:
         std::string line;
         line.reserve(m_file.size() + m_subject.size() + problem.size() + 4);
         line.append(m_file).append(": ").append(m_subject).append(": ").append(problem);
-        m_problems.push_back({std::move(line), breaksProjectFile});
+        m_problems.push_back({std::move(line), breaksProjectFile, m_object});
     }
 
     // The texts of one line of the project file that it cannot carry; `prefix` names the
@@ -425,6 +429,7 @@ private:
     std::string_view m_file;
     std::array<std::unordered_set<std::string_view>, KindCount> m_ids;
     std::string m_subject;
+    std::optional<ObjectRef> m_object;
     std::vector<ProjectProblem> m_problems;
 };
 
@@ -439,6 +444,14 @@ bool projectFileCarries(std::string_view text)
 std::vector<ProjectProblem> findProjectProblems(const Document &doc, std::string_view file)
 {
     return Checker(doc, file).run();
+}
+
+std::vector<ProjectProblem> fullProjectCheck(const Document &doc, std::string_view file)
+{
+    std::vector<ProjectProblem> problems = findProjectProblems(doc, file);
+    for (ProjectProblem &warning : missingFileWarnings(doc, file))
+        problems.push_back(std::move(warning));
+    return problems;
 }
 
 std::vector<std::string> checkProject(const Document &doc, std::string_view file)

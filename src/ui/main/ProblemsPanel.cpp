@@ -23,6 +23,8 @@ ProblemsPanel::ProblemsPanel(QWidget *parent)
     layout->addWidget(m_lstProblems);
     setWidget(body);
     setFeatures(QDockWidget::DockWidgetClosable | QDockWidget::DockWidgetMovable);
+    connect(
+        m_lstProblems, &QListWidget::itemDoubleClicked, this, &ProblemsPanel::lstProblems_DblClick);
     hide();
 }
 
@@ -30,6 +32,7 @@ void ProblemsPanel::showProblems(const QString &summary, const std::vector<std::
 {
     m_lblProblems->setText(summary);
     m_lstProblems->clear();
+    m_objects.clear();
     for (const std::string &problem : problems)
         m_lstProblems->addItem(QString::fromStdString(problem));
     m_lstProblems->setVisible(!problems.empty());
@@ -41,7 +44,54 @@ void ProblemsPanel::clearProblems()
 {
     m_lblProblems->clear();
     m_lstProblems->clear();
+    m_objects.clear();
     hide();
+}
+
+bool ProblemsPanel::fill(const QString &summary, const std::vector<ProjectProblem> &problems)
+{
+    const QStringList before = this->problems();
+    m_lblProblems->setText(summary);
+    m_lstProblems->clear();
+    m_objects.clear();
+    bool appeared = false;
+    for (const ProjectProblem &problem : problems) {
+        const QString line = (problem.warning ? QStringLiteral("warning: ") : QString()) +
+                             QString::fromStdString(problem.line);
+        appeared = appeared || !before.contains(line);
+        m_lstProblems->addItem(line);
+        m_objects.push_back(problem.object);
+    }
+    m_lstProblems->setVisible(!problems.empty());
+    return appeared;
+}
+
+void ProblemsPanel::showReport(const QString &summary, const std::vector<ProjectProblem> &problems)
+{
+    fill(summary, problems);
+    show();
+    raise();
+}
+
+void ProblemsPanel::updateProblems(const QString &summary,
+                                   const std::vector<ProjectProblem> &problems)
+{
+    const bool appeared = fill(summary, problems);
+    if (problems.empty()) {
+        hide();
+    } else if (appeared) {
+        show();
+        raise();
+    }
+}
+
+void ProblemsPanel::lstProblems_DblClick(QListWidgetItem *item)
+{
+    const int row = m_lstProblems->row(item);
+    if (row < 0 || row >= static_cast<int>(m_objects.size()))
+        return;
+    if (const auto &object = m_objects[static_cast<size_t>(row)]; object && m_open)
+        m_open(*object);
 }
 
 QString ProblemsPanel::summary() const

@@ -6,6 +6,11 @@
 #include "ObjectListView.h"
 #include "QuickStatsView.h"
 #include "ProblemsPanel.h"
+#include "UsedByPanel.h"
+#include "frmFind.h"
+#include "frmRename.h"
+#include "project/CheckSummary.h"
+#include "rules/ObjectRename.h"
 #include "io/SystemFileOps.h"
 #include "project/ProjectCheck.h"
 #include "generate/GenerateCommands.h"
@@ -76,6 +81,10 @@ frmMain::frmMain(Document &doc, UserInterface &userInterface, QWidget *parent)
     m_ui.fraAppStats->setVisible(false);
     m_problemsPanel = new ProblemsPanel(this);
     addDockWidget(Qt::BottomDockWidgetArea, m_problemsPanel);
+    m_problemsPanel->setOpener([this](ObjectRef object) { openObject(object); });
+    m_usedByPanel = new UsedByPanel(this);
+    addDockWidget(Qt::RightDockWidgetArea, m_usedByPanel);
+    m_usedByPanel->setOpener([this](ObjectRef object) { openObject(object); });
     setUpTabs();
     connectHandlers();
     Form_Load();
@@ -120,6 +129,8 @@ void frmMain::connectHandlers()
     connect(m_ui.mnuExit, &QAction::triggered, this, &frmMain::mnuExit_Click);
     connect(m_ui.mnuOnlineHelp, &QAction::triggered, this, &frmMain::mnuOnlineHelp_Click);
     connect(m_ui.mnuAbout, &QAction::triggered, this, &frmMain::mnuAbout_Click);
+    connect(m_ui.mnuRename, &QAction::triggered, this, &frmMain::mnuRename_Click);
+    connect(m_ui.mnuFind, &QAction::triggered, this, &frmMain::mnuFind_Click);
     connect(m_ui.cmdAppWindowProps, &QPushButton::clicked, this, &frmMain::cmdAppWindowProps_Click);
     connect(m_ui.cmdAppSoundProps, &QPushButton::clicked, this, &frmMain::cmdAppSoundProps_Click);
     connect(m_ui.cmdAppSplashProps, &QPushButton::clicked, this, &frmMain::cmdAppSplashProps_Click);
@@ -175,6 +186,7 @@ void frmMain::DataTabStrip_Click(int tab)
         m_doc.list(kindOfTab(tab)).selected = 0;
         showList(kindOfTab(tab));
     }
+    showUsedBy();
 }
 
 void frmMain::showList(Kind kind)
@@ -191,6 +203,7 @@ void frmMain::lstObjects_Click(int index)
     if (list.selected < 0 || list.selected >= static_cast<int>(list.lines.size()))
         return;
     updateObjectStats(kind, list.lines[static_cast<size_t>(list.selected)].slot);
+    showUsedBy();
 }
 
 void frmMain::lstObjects_DblClick(int index)
@@ -237,6 +250,7 @@ void frmMain::cmdObjAdd_Click()
     showList(kind);
     m_ui.cmdObjRemove->setEnabled(true);
     m_ui.cmdObjEdit->setEnabled(true);
+    refreshChecks();
 }
 
 void frmMain::cmdObjEdit_Click()
@@ -248,6 +262,7 @@ void frmMain::cmdObjEdit_Click()
         return;
     if (const auto &open = m_editors[static_cast<size_t>(kindIndex(kind))])
         open(*this);
+    refreshChecks();
 }
 
 void frmMain::cmdObjRemove_Click()
@@ -264,6 +279,7 @@ void frmMain::cmdObjRemove_Click()
         m_ui.cmdObjEdit->setEnabled(true);
         coverFrame(m_currentTab)->setVisible(true);
     }
+    refreshChecks();
 }
 
 void frmMain::projectOpened()
@@ -311,6 +327,7 @@ void frmMain::mnuNew_Click()
     for (Kind kind : ListOrder)
         showList(kind);
     selectFirstTab();
+    refreshChecks();
 }
 
 void frmMain::listsChanged()
@@ -341,6 +358,7 @@ void frmMain::mnuOpen_Click()
         projectOpened();
     selectFirstTab();
     UpdateAppStats();
+    refreshChecks();
 }
 
 void frmMain::mnuSave_Click()
@@ -416,15 +434,103 @@ void frmMain::mnuCheckProject_Click()
     }
     // The lines name the project file, or the project when it has none yet.
     const std::string path = projectSavePath(m_doc);
-    const std::vector<std::string> problems =
-        checkProject(m_doc, path.empty() ? m_doc.ProjectInfo.projectName : path);
+    const std::vector<ProjectProblem> problems =
+        fullProjectCheck(m_doc, path.empty() ? m_doc.ProjectInfo.projectName : path);
     const QString summary =
         problems.empty() ? QStringLiteral("Check Project: no problems found.")
         : problems.size() == 1
             ? QStringLiteral("Check Project: 1 problem found.")
             : QStringLiteral("Check Project: %1 problems found.").arg(problems.size());
     statusBar()->showMessage(summary);
-    m_problemsPanel->showProblems(summary, problems);
+    m_problemsPanel->showReport(summary, problems);
+}
+
+void frmMain::refreshChecks()
+{
+    showUsedBy();
+    if (m_find)
+        m_find->txtFind_Change();
+    if (m_doc.ProjectInfo.projectOpen == 0)
+        return;
+    const std::string path = projectSavePath(m_doc);
+    const std::vector<ProjectProblem> problems =
+        fullProjectCheck(m_doc, path.empty() ? m_doc.ProjectInfo.projectName : path);
+    const QString summary = QString::fromStdString(checkSummary(problems));
+    statusBar()->showMessage(summary);
+    m_problemsPanel->updateProblems(summary, problems);
+}
+
+std::optional<ObjectRef> frmMain::selectedObject() const
+{
+    if (!isObjectTab(m_currentTab))
+        return std::nullopt;
+    const Kind kind = kindOfTab(m_currentTab);
+    const ObjectList &list = m_doc.list(kind);
+    if (list.selected < 0 || list.selected >= static_cast<int>(list.lines.size()))
+        return std::nullopt;
+    const int slot = list.lines[static_cast<size_t>(list.selected)].slot;
+    if (!slotInTable(kind, slot))
+        return std::nullopt;
+    return ObjectRef{kind, slot};
+}
+
+void frmMain::showUsedBy()
+{
+    m_usedByPanel->showObject(m_doc, selectedObject());
+}
+
+void frmMain::selectObject(ObjectRef object)
+{
+    if (m_doc.ProjectInfo.projectOpen == 0)
+        return;
+    DataTabStrip_Click(tabOf(object.kind));
+    ObjectList &list = m_doc.list(object.kind);
+    for (size_t line = 0; line < list.lines.size(); ++line) {
+        if (list.lines[line].slot == object.slot) {
+            list.selected = static_cast<int>(line);
+            showList(object.kind);
+            break;
+        }
+    }
+}
+
+void frmMain::openObject(ObjectRef object)
+{
+    selectObject(object);
+    if (selectedObject() == object)
+        cmdObjEdit_Click();
+}
+
+bool frmMain::applyRename(ObjectRef object, const std::string &newId)
+{
+    if (renameObject(m_doc, object, newId).refusal)
+        return false;
+    for (Kind kind : ListOrder)
+        showList(kind);
+    return true;
+}
+
+void frmMain::mnuRename_Click()
+{
+    const std::optional<ObjectRef> object = selectedObject();
+    if (!object)
+        return;
+    frmRename dialog(m_doc, *object, this);
+    if (dialog.exec() != QDialog::Accepted)
+        return;
+    applyRename(*object, dialog.newId());
+    refreshChecks();
+}
+
+void frmMain::mnuFind_Click()
+{
+    if (!m_find)
+        m_find = new frmFind(
+            m_doc, [this](ObjectRef object) { selectObject(object); }, this);
+    m_find->show();
+    m_find->raise();
+    m_find->activateWindow();
+    m_find->form().txtFind->setFocus();
 }
 
 void frmMain::mnuGenDataAs_Click()
@@ -502,31 +608,37 @@ void frmMain::mnuAbout_Click()
 void frmMain::cmdAppWindowProps_Click()
 {
     showModal<frmAppWindowProps>(m_doc, this);
+    refreshChecks();
 }
 
 void frmMain::cmdAppSoundProps_Click()
 {
     showModal<frmAppSoundProps>(m_doc, this);
+    refreshChecks();
 }
 
 void frmMain::cmdAppSplashProps_Click()
 {
     showModal<frmAppSplashProps>(m_doc, this);
+    refreshChecks();
 }
 
 void frmMain::cmdAppLogProps_Click()
 {
     showModal<frmAppLogProps>(m_doc, this);
+    refreshChecks();
 }
 
 void frmMain::cmdLogEditType_Click()
 {
     showModal<frmLogType>(m_doc, this);
+    refreshChecks();
 }
 
 void frmMain::cmdLogEditFile_Click()
 {
     showModal<frmLogFile>(m_doc, this);
+    refreshChecks();
 }
 
 void frmMain::cmdLogEditCustom_Click()

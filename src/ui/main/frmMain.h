@@ -2,6 +2,7 @@
 
 #include "generate/GenerateState.h"
 #include "model/modGlobal.h"
+#include "rules/References.h"
 
 #include "ui_frmMain.h"
 
@@ -9,6 +10,8 @@
 
 #include <array>
 #include <functional>
+#include <optional>
+#include <string>
 
 class QListWidget;
 
@@ -19,6 +22,8 @@ class UserInterface;
 class frmProgress;
 class ProblemsPanel;
 class Registry;
+class UsedByPanel;
+class frmFind;
 struct QuickStats;
 
 // The main window: the tab strip with one page per kind of data, the object lists, the
@@ -52,6 +57,8 @@ public:
     void mnuExit_Click();
     void mnuOnlineHelp_Click();
     void mnuAbout_Click();
+    void mnuRename_Click();
+    void mnuFind_Click();
     // The settings and log filter dialogs of the application and log pages.
     void cmdAppWindowProps_Click();
     void cmdAppSoundProps_Click();
@@ -68,6 +75,19 @@ public:
     // refreshes the quick statistics as a click would.
     void showList(Kind kind);
 
+    // The object selected in the list of the current tab; none on the other tabs.
+    std::optional<ObjectRef> selectedObject() const;
+    // Shows `object` in its tab with its line selected, as a click on the line would.
+    void selectObject(ObjectRef object);
+    // Selects `object` and opens its editor, as Edit Properties does.
+    void openObject(ObjectRef object);
+    // Gives `object` the identifier `newId` with every reference to it and shows the lists
+    // again; false when refused. The change of one history step "Rename KIND "OLD"".
+    bool applyRename(ObjectRef object, const std::string &newId);
+    // Brings the problems panel, the status line, Used By and Find up to date with the
+    // document: run after every step.
+    void refreshChecks();
+
     // The editor opened by Edit for `kind`; without one, Edit only sets the index.
     void setEditor(Kind kind, EditorOpener opener);
 
@@ -76,6 +96,9 @@ public:
     UserInterface &userInterface() { return m_userInterface; }
     frmProgress &progress();
     ProblemsPanel &problemsPanel() { return *m_problemsPanel; }
+    UsedByPanel &usedByPanel() { return *m_usedByPanel; }
+    // The Find window, once Edit > Find Object has opened it.
+    frmFind *findWindow() const { return m_find; }
     int currentTab() const { return m_currentTab; }
     QListWidget *objectList(int tab) const { return m_lists[static_cast<size_t>(tab)]; }
     QFrame *tabFrame(int tab) const { return m_tabs[static_cast<size_t>(tab)]; }
@@ -105,12 +128,16 @@ private:
     void showSaveProblems(const std::vector<std::string> &notices);
     // Shows every list again after Open, Save or Generate changed them.
     void listsChanged();
+    // Shows in Used By what refers to the selected object.
+    void showUsedBy();
 
     Ui::frmMain m_ui;
     Document &m_doc;
     UserInterface &m_userInterface;
     frmProgress *m_progress = nullptr;
     ProblemsPanel *m_problemsPanel = nullptr;
+    UsedByPanel *m_usedByPanel = nullptr;
+    frmFind *m_find = nullptr;
     int m_currentTab = 0;
     std::array<QListWidget *, TabCount + 1> m_lists{};
     std::array<ObjectListView *, TabCount + 1> m_listViews{};

@@ -1,0 +1,48 @@
+#include "UsedByPanel.h"
+
+#include <QListWidget>
+
+namespace vorlane {
+
+UsedByPanel::UsedByPanel(QWidget *parent)
+    : QDockWidget(QStringLiteral("Used By"), parent)
+    , m_lstUsedBy(new QListWidget)
+{
+    setObjectName(QStringLiteral("UsedByPanel"));
+    m_lstUsedBy->setObjectName(QStringLiteral("lstUsedBy"));
+    setWidget(m_lstUsedBy);
+    setFeatures(QDockWidget::DockWidgetClosable | QDockWidget::DockWidgetMovable);
+    connect(m_lstUsedBy, &QListWidget::itemDoubleClicked, this, &UsedByPanel::lstUsedBy_DblClick);
+}
+
+void UsedByPanel::showObject(const Document &doc, std::optional<ObjectRef> object)
+{
+    m_lstUsedBy->clear();
+    m_owners.clear();
+    if (!object)
+        return;
+    const std::vector<Reference> references = usedBy(doc, *object);
+    for (const Reference &reference : references) {
+        m_lstUsedBy->addItem(QString::fromStdString(referenceLine(doc, reference)));
+        m_owners.push_back(reference.owner);
+    }
+    if (references.empty())
+        m_lstUsedBy->addItem(QString::fromStdString(usedByLines(doc, *object).front()));
+}
+
+QStringList UsedByPanel::lines() const
+{
+    QStringList texts;
+    for (int i = 0; i < m_lstUsedBy->count(); ++i)
+        texts << m_lstUsedBy->item(i)->text();
+    return texts;
+}
+
+void UsedByPanel::lstUsedBy_DblClick(QListWidgetItem *item)
+{
+    const int row = m_lstUsedBy->row(item);
+    if (row >= 0 && row < static_cast<int>(m_owners.size()) && m_open)
+        m_open(m_owners[static_cast<size_t>(row)]);
+}
+
+} // namespace vorlane
