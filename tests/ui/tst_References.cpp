@@ -11,6 +11,7 @@
 #include <QLabel>
 #include <QListWidget>
 #include <QStatusBar>
+#include <QTemporaryDir>
 #include <QTest>
 
 #include <memory>
@@ -360,6 +361,38 @@ private slots:
         QCOMPARE(m_opened.size(), size_t(1));
         QCOMPARE(m_opened[0], (ObjectRef{Kind::Sprite, m_sprite}));
         QCOMPARE(m_window->currentTab(), tabOf(Kind::Sprite));
+    }
+
+    void saveReportLinesOpenTheirObjectsToo()
+    {
+        QTemporaryDir dir;
+        button().id = "x\",y";
+        m_doc->list(Kind::Button).lines[0].text = "x\",y";
+        m_ui->fileChoices = {dir.filePath("game.dvb").toStdString()};
+        m_window->form().mnuSaveAs->trigger();
+        QCOMPARE(listTexts(problems()).size(), 1);
+        QVERIFY(listTexts(problems())[0].contains("id holds a double quote followed by a comma"));
+        doubleClickLine(problems(), 0);
+        QCOMPARE(m_opened.size(), size_t(1));
+        QCOMPARE(m_opened[0], (ObjectRef{Kind::Button, m_button}));
+        m_doc->ProjectInfo.projectFilePath.clear();
+    }
+
+    void openingAProjectShowsItsProblems()
+    {
+        QTemporaryDir dir;
+        const std::string file = dir.filePath("game.dvb").toStdString();
+        button().captionTextId = "txtGone";
+        m_ui->fileChoices = {file};
+        m_window->form().mnuSaveAs->trigger();
+        m_window->problemsPanel().close();
+        m_ui->fileChoices = {file};
+        m_window->form().mnuOpen->trigger();
+        QCOMPARE(listTexts(problems()),
+                 QStringList{QString::fromStdString(
+                     file + ": button \"btnPlay\": captionTextId \"txtGone\" names no text")});
+        QCOMPARE(status(), QStringLiteral("1 problem"));
+        m_doc->ProjectInfo.projectFilePath.clear();
     }
 
     void checkProjectLinesOpenTheirObjectsToo()

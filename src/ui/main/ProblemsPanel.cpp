@@ -2,6 +2,7 @@
 
 #include <QLabel>
 #include <QListWidget>
+#include <QSet>
 #include <QVBoxLayout>
 
 namespace vorlane {
@@ -55,13 +56,19 @@ bool ProblemsPanel::fill(const QString &summary, const std::vector<ProjectProble
     m_lstProblems->clear();
     m_objects.clear();
     bool appeared = false;
+    QStringList lines;
+    lines.reserve(static_cast<qsizetype>(problems.size()));
     for (const ProjectProblem &problem : problems) {
         const QString line = (problem.warning ? QStringLiteral("warning: ") : QString()) +
                              QString::fromStdString(problem.line);
-        appeared = appeared || !before.contains(line);
-        m_lstProblems->addItem(line);
+        lines << line;
         m_objects.push_back(problem.object);
     }
+    // Compared as a set: a report of hundreds of lines stays quick.
+    const QSet<QString> shown(before.begin(), before.end());
+    for (const QString &line : lines)
+        appeared = appeared || !shown.contains(line);
+    m_lstProblems->addItems(lines);
     m_lstProblems->setVisible(!problems.empty());
     return appeared;
 }

@@ -83,7 +83,18 @@ frmMain::frmMain(Document &doc, UserInterface &userInterface, QWidget *parent)
     addDockWidget(Qt::BottomDockWidgetArea, m_problemsPanel);
     m_problemsPanel->setOpener([this](ObjectRef object) { openObject(object); });
     m_usedByPanel = new UsedByPanel(this);
-    addDockWidget(Qt::RightDockWidgetArea, m_usedByPanel);
+    // Under the lists, beside the problems: the tab strip keeps the window's whole width.
+    addDockWidget(Qt::BottomDockWidgetArea, m_usedByPanel);
+    splitDockWidget(m_problemsPanel, m_usedByPanel, Qt::Horizontal);
+    resizeDocks({m_usedByPanel}, {140}, Qt::Vertical);
+    // The problems' long lines take two thirds of the width the first time they show.
+    connect(m_problemsPanel, &QDockWidget::visibilityChanged, this, [this](bool visible) {
+        if (!visible || m_docksShared)
+            return;
+        m_docksShared = true;
+        resizeDocks(
+            {m_problemsPanel, m_usedByPanel}, {width() * 2 / 3, width() / 3}, Qt::Horizontal);
+    });
     m_usedByPanel->setOpener([this](ObjectRef object) { openObject(object); });
     setUpTabs();
     connectHandlers();
@@ -408,9 +419,13 @@ bool frmMain::saveProjectAs()
 void frmMain::showSaveProblems(const std::vector<std::string> &notices)
 {
     const std::string path = projectSavePath(m_doc);
-    std::vector<std::string> lines = notices;
-    for (std::string &problem : projectFileProblems(m_doc, path))
-        lines.push_back(std::move(problem));
+    std::vector<ProjectProblem> lines;
+    for (const std::string &notice : notices)
+        lines.push_back({notice, false, std::nullopt, false});
+    for (ProjectProblem &problem : findProjectProblems(m_doc, path)) {
+        if (problem.breaksProjectFile)
+            lines.push_back(std::move(problem));
+    }
     if (lines.empty()) {
         m_problemsPanel->clearProblems();
         statusBar()->showMessage(QStringLiteral("Saved \"%1\"").arg(qs(path)));
@@ -423,7 +438,7 @@ void frmMain::showSaveProblems(const std::vector<std::string> &notices)
                  lines.size() == 1 ? QStringLiteral("1 problem")
                                    : QStringLiteral("%1 problems").arg(lines.size()));
     statusBar()->showMessage(summary);
-    m_problemsPanel->showProblems(summary, lines);
+    m_problemsPanel->showReport(summary, lines);
 }
 
 void frmMain::mnuCheckProject_Click()

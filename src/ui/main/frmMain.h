@@ -138,6 +138,7 @@ private:
     ProblemsPanel *m_problemsPanel = nullptr;
     UsedByPanel *m_usedByPanel = nullptr;
     frmFind *m_find = nullptr;
+    bool m_docksShared = false; // the problems and Used By panels have had their widths
     int m_currentTab = 0;
     std::array<QListWidget *, TabCount + 1> m_lists{};
     std::array<ObjectListView *, TabCount + 1> m_listViews{};
