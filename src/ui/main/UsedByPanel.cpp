@@ -11,7 +11,8 @@ UsedByPanel::UsedByPanel(QWidget *parent)
     setObjectName(QStringLiteral("UsedByPanel"));
     m_lstUsedBy->setObjectName(QStringLiteral("lstUsedBy"));
     setWidget(m_lstUsedBy);
-    setFeatures(QDockWidget::DockWidgetClosable | QDockWidget::DockWidgetMovable);
+    // No close box: nothing in the menus would bring the panel back.
+    setFeatures(QDockWidget::DockWidgetMovable);
     connect(m_lstUsedBy, &QListWidget::itemDoubleClicked, this, &UsedByPanel::lstUsedBy_DblClick);
 }
 
