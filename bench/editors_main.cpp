@@ -2,7 +2,9 @@
 // and measures, for each kind whose editor exists, the time from Edit Properties to the shown
 // editor and from Escape to the refreshed list line. Prints one line per kind:
 // "KIND open MS close MS", the medians of --runs rounds (default 9), and the same for the
-// animation editor opened from the sprite editor on an animation of 101 frames.
+// animation editor opened from the sprite editor on an animation of 101 frames. First it prints
+// the medians of File > Open and File > Save As of that project in the main window:
+// "open MS save-as MS".
 //
 // Usage: vorlane_editors_bench [--runs N] [--dir FOLDER]
 #include "LargestProject.h"
@@ -38,22 +40,41 @@ namespace {
 
 using namespace vorlane;
 
-// Chooses the project file for Open and answers every question with Yes or OK.
+// Chooses the project file for Open, `saveAsPath` for Save As, and answers every question
+// with Yes or OK.
 class BenchUserInterface : public UserInterface
 {
 public:
-    explicit BenchUserInterface(std::string path)
+    explicit BenchUserInterface(std::string path, std::string saveAsPath = {})
         : m_path(std::move(path))
+        , m_saveAsPath(std::move(saveAsPath))
     {}
     MessageAnswer showMessage(const Message &message) override
     {
         return message.buttons == MessageButtons::YesNo ? MessageAnswer::Yes : MessageAnswer::OK;
     }
-    std::optional<std::string> chooseFile(const FileDialogRequest &) override { return m_path; }
+    std::optional<std::string> chooseFile(const FileDialogRequest &request) override
+    {
+        if (request.mode == FileDialogRequest::Mode::Save && !m_saveAsPath.empty())
+            return m_saveAsPath;
+        return m_path;
+    }
 
 private:
     std::string m_path;
+    std::string m_saveAsPath;
 };
+
+// The milliseconds `step` takes, with pending events handled before and after it.
+double timeStep(const std::function<void()> &step)
+{
+    QApplication::processEvents();
+    QElapsedTimer clock;
+    clock.start();
+    step();
+    QApplication::processEvents();
+    return static_cast<double>(clock.nsecsElapsed()) / 1e6;
+}
 
 double median(std::vector<double> values)
 {
@@ -194,11 +215,23 @@ int main(int argc, char **argv)
         }
     }
 
+    const std::string saveAsPath = (dir / "vorlane-editors-bench-saved.dvb").string();
     auto document = makeDocument();
-    BenchUserInterface userInterface(path);
+    BenchUserInterface userInterface(path, saveAsPath);
     frmMain window(*document, userInterface);
     registerEditors(window);
     window.show();
+    // Open and Save As of the whole project, as a user does them (target: under 150 each).
+    std::vector<double> opens;
+    std::vector<double> saves;
+    for (int run = 0; run < runs; ++run) {
+        opens.push_back(timeStep([&] { window.mnuOpen_Click(); }));
+        saves.push_back(timeStep([&] { window.mnuSaveAs_Click(); }));
+    }
+    std::printf("open %.1f save-as %.1f\n", median(opens), median(saves));
+    std::filesystem::remove(saveAsPath);
+    for (int number = 1; number <= 3; ++number)
+        std::filesystem::remove(saveAsPath + ".bak" + std::to_string(number));
     window.mnuOpen_Click();
 
     for (std::size_t i = 0; i < ListOrder.size(); ++i) {

@@ -1,6 +1,7 @@
 // vorlane_bench: measures Save, Open and Generate on the largest project the tables allow,
 // each beside a plain copy of the same bytes (the file reads and writes alone, no parsing or
-// formatting), and vorlane-cli convert and generate as processes, with their peak memory.
+// formatting), and vorlane-cli convert and generate as processes, with their peak memory;
+// then vorlane-cli export, import, diff and merge on the same project.
 // With --window it measures instead how long the editor's main window takes to come up.
 //
 // Usage: vorlane_bench [--runs N] [--dir FOLDER] [--cli VORLANE_CLI] [--peak-memory WRAPPER]
@@ -38,6 +39,8 @@ using namespace vorlane;
 using Clock = std::chrono::steady_clock;
 
 constexpr double MB = 1e6;
+// The budget of the two commands: within this many times the plain copy of their bytes.
+constexpr double ToolRatio = 10.0;
 
 // Answers Yes to the questions of Save and Generate and shows nothing.
 class AnswerYes : public UserInterface
@@ -142,9 +145,9 @@ ChildRun measureChild(const std::string &peakMemory, std::vector<std::string> ar
     return run;
 }
 
-ByteBuffer readFile(const std::string &path)
+std::string readFile(const std::string &path)
 {
-    ByteBuffer bytes;
+    std::string bytes;
     if (const int error = systemFileOps().readAll(path, bytes); error != 0)
         fail(path + ": " + errorText(error));
     return bytes;
@@ -250,8 +253,8 @@ int benchCore(int runs,
 
     if (!saveProject(*doc, ui, quiet, systemFileOps()).written())
         fail(project + ": could not be saved");
-    const ByteBuffer bytes = readFile(project);
-    const auto lines = std::count(bytes.view().begin(), bytes.view().end(), '\n');
+    const std::string bytes = readFile(project);
+    const auto lines = std::count(bytes.begin(), bytes.end(), '\n');
     const std::vector<EngineFile> files = engineFiles(*doc, "generated/");
     const size_t engineBytes = totalSize(files);
     std::printf("Project: %.2f MB, %ld lines; engine files: %.2f MB; median of %d runs\n\n",
@@ -303,12 +306,13 @@ int benchCore(int runs,
         long maxRssKb = 0;
     };
     const auto measureTool = [&](const std::vector<std::string> &argv,
-                                 const std::function<void()> &copy) {
+                                 const std::function<void()> &copy,
+                                 int expectedExit = 0) {
         std::vector<double> times, copyTimes;
         ChildTimes result;
         for (int i = 0; i < runs; ++i) {
             const ChildRun run = measureChild(peakMemory, argv);
-            if (run.exitCode != 0)
+            if (run.exitCode != expectedExit)
                 fail("vorlane-cli " + argv[1] + " failed");
             times.push_back(run.seconds);
             result.maxRssKb = std::max(result.maxRssKb, run.maxRssKb);
@@ -323,7 +327,7 @@ int benchCore(int runs,
     const ChildTimes convert = measureTool({cli, "convert", project, converted},
                                            [&] { writeSafely(copyProject, readFile(project)); });
     rows.push_back(
-        {"vorlane-cli convert", 2 * bytes.size(), convert.median, convert.copyMedian, 2.0});
+        {"vorlane-cli convert", 2 * bytes.size(), convert.median, convert.copyMedian, ToolRatio});
 
     const std::string cliOut = folder + "/cli-generated";
     const ChildTimes cliGenerate =
@@ -335,7 +339,7 @@ int benchCore(int runs,
                     bytes.size() + engineBytes,
                     cliGenerate.median,
                     cliGenerate.copyMedian,
-                    2.0});
+                    ToolRatio});
     const long convertRss = convert.maxRssKb;
     const long generateRss = cliGenerate.maxRssKb;
 
@@ -348,6 +352,52 @@ int benchCore(int runs,
                 limitMb,
                 std::max(convertRss, generateRss) / 1024.0 < limitMb ? "met" : "MISSED");
     met = met && std::max(convertRss, generateRss) / 1024.0 < limitMb;
+
+    // The JSON form: export and import of the largest project, a diff of it against the
+    // converted copy (which differs in its recorded path) and a merge of the three, each as a
+    // process with its peak memory.
+    const std::string json = folder + "/largest.json";
+    const std::string imported = folder + "/imported.dvb";
+    const std::string merged = folder + "/merged.dvb";
+    struct JsonRow
+    {
+        const char *name;
+        ChildTimes times;
+        double limitSeconds;
+    };
+    const auto justRead = [&] {
+        (void)readFile(project);
+    };
+    std::vector<JsonRow> jsonRows;
+    jsonRows.push_back(
+        {"vorlane-cli export", measureTool({cli, "export", project, json}, justRead), 1.0});
+    const std::string jsonBytes = readFile(json);
+    jsonRows.push_back(
+        {"vorlane-cli import", measureTool({cli, "import", json, imported}, justRead), 1.0});
+    if (readFile(imported) != bytes)
+        fail(imported + ": import did not give back the project file");
+    jsonRows.push_back(
+        {"vorlane-cli diff", measureTool({cli, "diff", project, converted}, justRead, 1), 2.0});
+    jsonRows.push_back(
+        {"vorlane-cli merge",
+         measureTool({cli, "merge", project, converted, project, "-o", merged}, justRead),
+         2.0});
+    const double jsonLimitMb = 256;
+    std::printf("\nJSON form: %.2f MB; median of %d runs\n",
+                static_cast<double>(jsonBytes.size()) / MB,
+                runs);
+    for (const JsonRow &row : jsonRows) {
+        const double mb = static_cast<double>(row.times.maxRssKb) / 1024;
+        const bool rowMet = row.times.median < row.limitSeconds && mb < jsonLimitMb;
+        std::printf("%-22s %9.1f ms %9.1f MB peak  (target < %.0f ms, < %.0f MB: %s)\n",
+                    row.name,
+                    row.times.median * 1e3,
+                    mb,
+                    row.limitSeconds * 1e3,
+                    jsonLimitMb,
+                    rowMet ? "met" : "MISSED");
+        met = met && rowMet;
+    }
     return met ? 0 : 3;
 }
 

@@ -54,6 +54,8 @@ install(DIRECTORY docs/images/ DESTINATION ${CMAKE_INSTALL_DOCDIR}/manual/images
 file(CREATE_LINK manual/images ${staged}/images SYMBOLIC)
 install(FILES ${staged}/images DESTINATION ${CMAKE_INSTALL_DOCDIR})
 install(FILES packaging/copyright DESTINATION ${CMAKE_INSTALL_DOCDIR})
+# The JSON Schema of vorlane-cli export's output, for editors and scripts that check it.
+install(FILES docs/project.schema.json DESTINATION ${CMAKE_INSTALL_DOCDIR})
 # Registers the manual with the system's documentation browsers.
 configure_file(data/doc-base/vorlane-manual.in ${staged}/vorlane-manual @ONLY)
 install(FILES ${staged}/vorlane-manual DESTINATION ${CMAKE_INSTALL_DATAROOTDIR}/doc-base)

@@ -22,9 +22,10 @@ ensure_packages() {
 }
 
 BUILD_PACKAGES=(cmake ninja-build g++ pkg-config qt6-base-dev libgl-dev libgtest-dev libgmock-dev
-    librsvg2-bin)
+    librsvg2-bin nlohmann-json3-dev)
 # The staging-install test validates the installed desktop entry, metainfo and manual page.
-TEST_PACKAGES=(desktop-file-utils appstream man-db)
+# The version-control test runs git as a user's repository would.
+TEST_PACKAGES=(desktop-file-utils appstream man-db git)
 # scripts/package: dpkg-shlibdeps (dpkg-dev, which reads the binaries with file) computes the
 # package's dependencies; lintian checks the package.
 PACKAGE_PACKAGES=(dpkg-dev file lintian)

@@ -31,5 +31,7 @@ int main(int argc, char **argv)
     userInterface.setParent(&window);
     vorlane::registerEditors(window);
     window.show();
+    // Offers what an editor that ended left unsaved, then keeps this editor's own recovery file.
+    window.startRecovery();
     return QApplication::exec();
 }

@@ -116,9 +116,11 @@ int runGenerate(const std::vector<std::string> &args, std::ostream & /*out*/, st
     if (!parsed)
         return usage(err, problem);
 
-    // The file chosen in the folder dialog: any name in OUTDIR does, as in the editor.
+    // The file chosen in the folder dialog: any name in OUTDIR does, as in the editor. OUTDIR
+    // is a folder of this system, where "\" is a character of a name like any other: the
+    // files go inside the folder it names, never beside it.
     std::string chosen = parsed->outDir;
-    if (chosen.back() != '/' && chosen.back() != '\\')
+    if (chosen.back() != '/')
         chosen.push_back('/');
     chosen.append(GenerateProposedName);
 
@@ -129,17 +131,35 @@ int runGenerate(const std::vector<std::string> &args, std::ostream & /*out*/, st
         return ExitFailure;
     // What `check` finds in the project file as it is.
     printWarnings(*doc, parsed->project, err);
-    if (parsed->root)
-        doc->AppSettings.rootFolder = *parsed->root;
+    if (parsed->root) {
+        // A root ending in a separator would cut the data folder's first character.
+        doc->AppSettings.rootFolder = withoutTrailingSeparators(*parsed->root);
+        if (doc->AppSettings.rootFolder != *parsed->root)
+            err << "vorlane-cli: warning: --root \"" << *parsed->root
+                << "\" ends in a separator; the application root folder is \""
+                << doc->AppSettings.rootFolder << "\"\n";
+    }
+    if (parsed->outDir.back() == '\\')
+        err << "vorlane-cli: warning: OUTDIR \"" << parsed->outDir
+            << "\" ends in \"\\\", which is part of the folder's name on this system; the "
+               "files are written inside that folder\n";
 
     // Checked before OUTDIR is created, so that a refused folder is left as it was.
     const std::string &rootFolder = doc->AppSettings.rootFolder;
-    if (!computeGeneratePaths(chosen, rootFolder)) {
+    const std::optional<GeneratePaths> paths = computeGeneratePaths(chosen, rootFolder);
+    if (!paths) {
         err << "vorlane-cli: " << folderOf(chosen)
             << ": the folder lies outside the application root folder " << rootFolder
             << "; nothing was generated\n";
         return ExitFailure;
     }
+    // The editor's rule finds the root by its text alone; a sibling folder whose name begins
+    // with the root's text passes it, with a data folder the engine will not find.
+    if (!rootEndsAtSeparator(chosen, rootFolder))
+        err << "vorlane-cli: warning: " << folderOf(chosen)
+            << ": the folder is not inside the application root folder " << rootFolder
+            << ", though its path begins with the root's text; app.cfg names the data folder \""
+            << paths->dataFolderRel << "\"\n";
 
     std::error_code error;
     std::filesystem::create_directories(parsed->outDir, error);

@@ -2,20 +2,13 @@
 
 #include "generate/EngineLine.h"
 #include "generate/EngineLineSize.h"
-#include "io/CollectingSink.h"
 #include "model/Kinds.h"
+
+#include <algorithm>
 
 namespace vorlane {
 
 namespace {
-
-// The bytes `produce` writes, as one string.
-std::string collected(const ChunkProducer &produce)
-{
-    CollectingSink sink;
-    produce(sink);
-    return sink.bytes().str();
-}
 
 // Slot flags hold -1 for true.
 bool isSet(int16_t flag)
@@ -23,45 +16,38 @@ bool isSet(int16_t flag)
     return flag == -1;
 }
 
-// Writes an engine file into chunks from a sink, one piece (a line or an object's record) at
-// a time: each piece is measured, room is made for it, and it is written in one pass, without
-// growing the chunk field by field. Full chunks go to the sink.
-class ChunkedLines
+// Writes an engine file into one buffer, one piece (a line or an object's record) at a time:
+// each piece is measured, room is made for it, and it is written in one pass, without growing
+// the buffer field by field.
+class EngineText
 {
 public:
-    explicit ChunkedLines(ChunkSink &sink)
-        : m_sink(sink)
-        , m_chunk(sink.next(0))
-    {}
-
     template<class Write>
     void write(const Write &write)
     {
         EngineLineSize size;
         write(size);
-        if (m_chunk.capacity() - m_chunk.size() < size.size()) {
-            m_sink.put(std::move(m_chunk));
-            m_chunk = m_sink.next(size.size());
-        }
-        EngineLine line(m_chunk.data() + m_chunk.size());
+        const std::size_t used = m_bytes.size();
+        if (m_bytes.capacity() - used < size.size())
+            m_bytes.reserve(std::max(m_bytes.capacity() * 2, used + size.size()));
+        m_bytes.resize(used + size.size());
+        EngineLine line(m_bytes.data() + used);
         write(line);
-        m_chunk.setSize(static_cast<std::size_t>(line.position() - m_chunk.data()));
+        m_bytes.resize(static_cast<std::size_t>(line.position() - m_bytes.data()));
     }
 
-    // Hands the last chunk to the sink.
-    void finish() { m_sink.put(std::move(m_chunk)); }
+    std::string take() { return std::move(m_bytes); }
 
 private:
-    ChunkSink &m_sink;
-    ByteBuffer m_chunk;
+    std::string m_bytes;
 };
 
 template<class Write>
-void writeInOnePiece(ChunkSink &sink, const Write &write)
+std::string inOnePiece(const Write &write)
 {
-    ChunkedLines out(sink);
+    EngineText out;
     out.write(write);
-    out.finish();
+    return out.take();
 }
 
 template<class Line>
@@ -221,9 +207,9 @@ void writeRecord(Line &line, const SceneRec &s)
 
 } // namespace
 
-void writeAppCfg(ChunkSink &sink, const AppSettingsRec &a, std::string_view dataFolderRel)
+std::string appCfg(const AppSettingsRec &a, std::string_view dataFolderRel)
 {
-    writeInOnePiece(sink, [&](auto &line) {
+    return inOnePiece([&](auto &line) {
         line.starred(dataFolderRel)
             .starred(a.windowCaption)
             .starred(a.windowIcon)
@@ -254,9 +240,9 @@ void writeAppCfg(ChunkSink &sink, const AppSettingsRec &a, std::string_view data
     });
 }
 
-void writeLogCfg(ChunkSink &sink, const AppSettingsRec &a)
+std::string logCfg(const AppSettingsRec &a)
 {
-    writeInOnePiece(sink, [&](auto &line) {
+    return inOnePiece([&](auto &line) {
         // The counts are written as stored, not recounted from the check values.
         line.number(a.logTypeFilterCount).end();
         for (std::size_t i = 0; i < LogTypePrefixes.size(); ++i)
@@ -275,13 +261,10 @@ void writeLogCfg(ChunkSink &sink, const AppSettingsRec &a)
 }
 
 // The count line, then one record per list line.
-void writeDataFile(ChunkSink &sink,
-                   const Document &doc,
-                   Kind kind,
-                   const RecordWritten &recordWritten)
+std::string dataFile(const Document &doc, Kind kind, const RecordWritten &recordWritten)
 {
     const ObjectList &list = doc.list(kind);
-    ChunkedLines out(sink);
+    EngineText out;
     out.write([&](auto &line) { line.countLine(list.lines.size()); });
     withTable(doc, kind, [&](const auto &table) {
         for (const ListLine &entry : list.lines) {
@@ -291,22 +274,7 @@ void writeDataFile(ChunkSink &sink,
                 recordWritten();
         }
     });
-    out.finish();
-}
-
-std::string appCfg(const AppSettingsRec &settings, std::string_view dataFolderRel)
-{
-    return collected([&](ChunkSink &sink) { writeAppCfg(sink, settings, dataFolderRel); });
-}
-
-std::string logCfg(const AppSettingsRec &settings)
-{
-    return collected([&](ChunkSink &sink) { writeLogCfg(sink, settings); });
-}
-
-std::string dataFile(const Document &doc, Kind kind)
-{
-    return collected([&](ChunkSink &sink) { writeDataFile(sink, doc, kind); });
+    return out.take();
 }
 
 std::string buttonDat(const Document &doc)

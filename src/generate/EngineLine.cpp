@@ -41,8 +41,8 @@ const std::array<EngineLine::SmallNumber, EngineLine::SmallNumbers> EngineLine::
 
 char *EngineLine::putConverted(char *p, std::string_view utf8)
 {
-    // One scratch buffer per thread, so converting allocates only when it grows.
-    static thread_local std::string converted;
+    // One scratch buffer, so converting allocates only when it grows.
+    static std::string converted;
     converted.clear();
     appendCp1252(converted, utf8);
     std::memcpy(p, converted.data(), converted.size());

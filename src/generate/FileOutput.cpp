@@ -1,18 +1,9 @@
 #include "generate/FileOutput.h"
 
-#include "io/CollectingSink.h"
 #include "io/SafeSave.h"
 #include "io/SystemFileOps.h"
 
 namespace vorlane {
-
-std::optional<std::string> FileOutput::writeChunked(const std::string &path,
-                                                    const ChunkProducer &produce)
-{
-    CollectingSink sink;
-    produce(sink);
-    return writeFile(path, sink.bytes().view());
-}
 
 namespace {
 
@@ -31,12 +22,6 @@ std::optional<std::string> SafeFileOutput::writeFile(const std::string &path,
                                                      std::string_view bytes)
 {
     return reasonOf(writeFileSafely(path, bytes, m_ops));
-}
-
-std::optional<std::string> SafeFileOutput::writeChunked(const std::string &path,
-                                                        const ChunkProducer &produce)
-{
-    return reasonOf(writeFileSafely(path, produce, m_ops));
 }
 
 FileOutput &diskFileOutput()

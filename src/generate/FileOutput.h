@@ -1,6 +1,5 @@
 #pragma once
 
-#include "io/ChunkSink.h"
 #include "io/FileOps.h"
 
 #include <optional>
@@ -19,10 +18,6 @@ public:
     // when any of that fails, nothing on success.
     virtual std::optional<std::string> writeFile(const std::string &path,
                                                  std::string_view bytes) = 0;
-    // The same for the bytes `produce` hands to its sink. Unless an output does better, the
-    // bytes are collected and written with writeFile.
-    virtual std::optional<std::string> writeChunked(const std::string &path,
-                                                    const ChunkProducer &produce);
 };
 
 // Writes each file through `ops` as a project file is saved: beside it, then renamed over it,
@@ -34,15 +29,13 @@ public:
         : m_ops(ops)
     {}
     std::optional<std::string> writeFile(const std::string &path, std::string_view bytes) override;
-    std::optional<std::string> writeChunked(const std::string &path,
-                                            const ChunkProducer &produce) override;
 
 private:
     FileOps &m_ops;
 };
 
 // Writes files to the disk, each replaced whole: written beside it and renamed over it, as a
-// project file is saved; the chunks of a file are written while the next ones are produced.
+// project file is saved.
 FileOutput &diskFileOutput();
 
 } // namespace vorlane

@@ -68,10 +68,10 @@ GenData(Document &doc, std::string_view dataFolderRel, ProgressSink &progress, F
 
     std::vector<std::string> replaced;
     const auto write = [&](std::string_view name,
-                           const ChunkProducer &produce) -> std::optional<GenerateFailure> {
+                           const std::string &bytes) -> std::optional<GenerateFailure> {
         std::string path = folder;
         path.append(name);
-        if (auto reason = files.writeChunked(path, produce))
+        if (auto reason = files.writeFile(path, bytes))
             return GenerateFailure{
                 std::move(path), std::move(*reason), replaced, GenerateFailure::Kind::Write};
         replaced.emplace_back(name);
@@ -79,9 +79,7 @@ GenData(Document &doc, std::string_view dataFolderRel, ProgressSink &progress, F
     };
 
     progress.setLabel("Generating Application Data...");
-    if (auto failure = write(AppCfgName, [&](ChunkSink &sink) {
-            writeAppCfg(sink, doc.AppSettings, dataFolderRel);
-        }))
+    if (auto failure = write(AppCfgName, appCfg(doc.AppSettings, dataFolderRel)))
         return failure;
     int value = 1;
     progress.setValue(value);
@@ -92,14 +90,12 @@ GenData(Document &doc, std::string_view dataFolderRel, ProgressSink &progress, F
     for (Kind kind : FileOrder) {
         const KindInfo &info = kindInfo(kind);
         progress.setLabel(info.generateLabel);
-        if (auto failure = write(info.dataFile,
-                                 [&](ChunkSink &sink) { writeDataFile(sink, doc, kind, step); }))
+        if (auto failure = write(info.dataFile, dataFile(doc, kind, step)))
             return failure;
     }
 
     progress.setLabel("Generating Log Data...");
-    if (auto failure =
-            write(LogCfgName, [&](ChunkSink &sink) { writeLogCfg(sink, doc.AppSettings); }))
+    if (auto failure = write(LogCfgName, logCfg(doc.AppSettings)))
         return failure;
     progress.setValue(maximum);
     return std::nullopt;

@@ -14,6 +14,31 @@ bool confirmed(UserInterface &ui)
     return ui.showMessage(question) != MessageAnswer::No;
 }
 
+// Passes every file on to `files` and counts those written whole.
+class CountingOutput final : public FileOutput
+{
+public:
+    explicit CountingOutput(FileOutput &files)
+        : m_files(files)
+    {}
+    std::optional<std::string> writeFile(const std::string &path, std::string_view bytes) override
+    {
+        return counted(m_files.writeFile(path, bytes));
+    }
+    int written() const { return m_written; }
+
+private:
+    std::optional<std::string> counted(std::optional<std::string> failure)
+    {
+        if (!failure)
+            ++m_written;
+        return failure;
+    }
+
+    FileOutput &m_files;
+    int m_written = 0;
+};
+
 GenerateResult generate(Document &doc,
                         const std::string &dataFolderRel,
                         UserInterface &ui,
@@ -22,7 +47,9 @@ GenerateResult generate(Document &doc,
 {
     GenerateResult result;
     result.folder = doc.ProjectInfo.generatePath;
-    result.failure = GenData(doc, dataFolderRel, progress, files);
+    CountingOutput counting(files);
+    result.failure = GenData(doc, dataFolderRel, progress, counting);
+    result.filesWritten = counting.written();
     if (!result.failure) {
         result.outcome = GenerateOutcome::Generated;
         return result;
@@ -41,6 +68,12 @@ std::string outsideRootText(const std::string &folder, const std::string &rootFo
 {
     return "The folder " + folder + " lies outside the application root folder " + rootFolder +
            ". No data was generated.";
+}
+
+std::string generatedText(int filesWritten, const std::string &folder)
+{
+    return "Generated " + std::to_string(filesWritten) + (filesWritten == 1 ? " file" : " files") +
+           " into " + folder;
 }
 
 std::string writeFailureText(const GenerateFailure &failure)

@@ -27,6 +27,7 @@ struct GenerateResult
     GenerateOutcome outcome = GenerateOutcome::Declined;
     std::optional<GenerateFailure> failure; // set when Failed
     std::string folder;                     // the chosen folder, set from OutsideRoot on
+    int filesWritten = 0;                   // engine files written whole, from Generated on
 };
 
 inline constexpr const char *GenerateTitle = "Generate Data";
@@ -49,6 +50,10 @@ GenerateResult generateDataAgain(Document &doc,
                                  FileOutput &files = diskFileOutput());
 
 // The text of the message shown when the chosen folder lies outside the root folder.
+// What the status bar says once generation wrote its files: "Generated 11 files into
+// /games/quest/data/"; `folder` as generation has it, with its closing separator.
+std::string generatedText(int filesWritten, const std::string &folder);
+
 std::string outsideRootText(const std::string &folder, const std::string &rootFolder);
 // The text of the message shown when an engine file could not be written.
 std::string writeFailureText(const GenerateFailure &failure);

@@ -30,4 +30,28 @@ std::optional<GeneratePaths> computeGeneratePaths(std::string_view chosenPath,
     return paths;
 }
 
+bool endsInSeparator(std::string_view path)
+{
+    return !path.empty() && (path.back() == '/' || path.back() == '\\');
+}
+
+std::string withoutTrailingSeparators(std::string_view folder)
+{
+    const std::size_t last = folder.find_last_not_of("/\\");
+    if (last == std::string_view::npos)
+        return std::string(folder);
+    return std::string(folder.substr(0, last + 1));
+}
+
+bool rootEndsAtSeparator(std::string_view chosenPath, std::string_view rootFolder)
+{
+    if (rootFolder.empty())
+        return true;
+    const std::size_t root = chosenPath.rfind(rootFolder);
+    if (root == std::string_view::npos)
+        return false;
+    const std::size_t after = root + rootFolder.size();
+    return after < chosenPath.size() && (chosenPath[after] == '/' || chosenPath[after] == '\\');
+}
+
 } // namespace vorlane

@@ -21,4 +21,16 @@ std::string folderOf(std::string_view path);
 std::optional<GeneratePaths> computeGeneratePaths(std::string_view chosenPath,
                                                   std::string_view rootFolder);
 
+// Whether `path` ends in "/" or "\".
+bool endsInSeparator(std::string_view path);
+
+// `folder` without the separators that end it; a folder of separators only stays as it is.
+std::string withoutTrailingSeparators(std::string_view folder);
+
+// Whether the last occurrence of `rootFolder` in `chosenPath` is followed by a separator, so
+// that the chosen folder lies inside the root folder rather than in a sibling whose name
+// begins with the root's text ("/games/quest2" for the root "/games/quest"). The text rule of
+// computeGeneratePaths accepts both; this tells them apart. True for an empty root.
+bool rootEndsAtSeparator(std::string_view chosenPath, std::string_view rootFolder);
+
 } // namespace vorlane

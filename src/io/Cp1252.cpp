@@ -1,5 +1,6 @@
 #include "io/Cp1252.h"
 
+#include <algorithm>
 #include <array>
 #include <cstdint>
 
@@ -44,46 +45,104 @@ void appendCodePoint(std::string &out, char32_t cp)
     }
 }
 
+// One character of UTF-8 text: its code point and length in bytes; a malformed sequence
+// (a stray or truncated byte, an overlong form, a surrogate, a code point past U+10FFFF) is
+// one invalid byte.
+struct Decoded
+{
+    char32_t cp = 0;
+    size_t length = 1;
+    bool valid = false;
+};
+
+Decoded decodeUtf8(std::string_view utf8, size_t i)
+{
+    const auto lead = static_cast<unsigned char>(utf8[i]);
+    if (lead < 0x80)
+        return {lead, 1, true};
+    size_t length = 0;
+    char32_t cp = 0;
+    char32_t least = 0;
+    if ((lead & 0xE0) == 0xC0) {
+        length = 2;
+        cp = lead & 0x1F;
+        least = 0x80;
+    } else if ((lead & 0xF0) == 0xE0) {
+        length = 3;
+        cp = lead & 0x0F;
+        least = 0x800;
+    } else if ((lead & 0xF8) == 0xF0) {
+        length = 4;
+        cp = lead & 0x07;
+        least = 0x10000;
+    }
+    if (length == 0 || i + length > utf8.size())
+        return {};
+    for (size_t k = 1; k < length; ++k) {
+        const auto next = static_cast<unsigned char>(utf8[i + k]);
+        if ((next & 0xC0) != 0x80)
+            return {};
+        cp = (cp << 6) | (next & 0x3F);
+    }
+    if (cp < least || cp > 0x10FFFF || (cp >= 0xD800 && cp <= 0xDFFF))
+        return {};
+    return {cp, length, true};
+}
+
 } // namespace
 
 void appendCp1252(std::string &out, std::string_view utf8)
 {
     size_t i = 0;
-    const size_t n = utf8.size();
-    while (i < n) {
-        const auto lead = static_cast<unsigned char>(utf8[i]);
-        if (lead < 0x80) {
-            out.push_back(static_cast<char>(lead));
+    while (i < utf8.size()) {
+        const Decoded next = decodeUtf8(utf8, i);
+        out.push_back(next.valid ? static_cast<char>(byteOf(next.cp)) : '?');
+        i += next.length;
+    }
+}
+
+bool fitsCp1252(std::string_view utf8)
+{
+    size_t i = 0;
+    while (i < utf8.size()) {
+        if (static_cast<unsigned char>(utf8[i]) < 0x80) {
             ++i;
             continue;
         }
-        int length = 0;
-        char32_t cp = 0;
-        if ((lead & 0xE0) == 0xC0) {
-            length = 2;
-            cp = lead & 0x1F;
-        } else if ((lead & 0xF0) == 0xE0) {
-            length = 3;
-            cp = lead & 0x0F;
-        } else if ((lead & 0xF8) == 0xF0) {
-            length = 4;
-            cp = lead & 0x07;
+        const Decoded next = decodeUtf8(utf8, i);
+        if (next.valid && byteOf(next.cp) == '?')
+            return false;
+        i += next.length;
+    }
+    return true;
+}
+
+std::vector<std::string> charactersOutsideCp1252(std::string_view utf8)
+{
+    std::vector<std::string> found;
+    size_t i = 0;
+    while (i < utf8.size()) {
+        const Decoded next = decodeUtf8(utf8, i);
+        if (next.valid && next.cp >= 0x80 && byteOf(next.cp) == '?') {
+            std::string character(utf8.substr(i, next.length));
+            if (std::find(found.begin(), found.end(), character) == found.end())
+                found.push_back(std::move(character));
         }
-        bool valid = length > 0 && i + static_cast<size_t>(length) <= n;
-        for (int k = 1; valid && k < length; ++k) {
-            const auto next = static_cast<unsigned char>(utf8[i + static_cast<size_t>(k)]);
-            if ((next & 0xC0) != 0x80)
-                valid = false;
-            else
-                cp = (cp << 6) | (next & 0x3F);
-        }
-        if (!valid) {
+        i += next.length;
+    }
+    return found;
+}
+
+void appendCleanUtf8(std::string &out, std::string_view utf8)
+{
+    size_t i = 0;
+    while (i < utf8.size()) {
+        const Decoded next = decodeUtf8(utf8, i);
+        if (next.valid)
+            out.append(utf8.substr(i, next.length));
+        else
             out.push_back('?');
-            ++i;
-            continue;
-        }
-        out.push_back(static_cast<char>(byteOf(cp)));
-        i += static_cast<size_t>(length);
+        i += next.length;
     }
 }
 

@@ -2,6 +2,7 @@
 
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace vorlane {
 
@@ -12,6 +13,17 @@ void appendCp1252(std::string &out, std::string_view utf8);
 
 // Appends the Windows-1252 `bytes` converted to UTF-8.
 void appendUtf8(std::string &out, std::string_view bytes);
+
+// Whether every character of `utf8` has a Windows-1252 byte (a malformed sequence, which
+// becomes "?" either way, does not count).
+bool fitsCp1252(std::string_view utf8);
+
+// The distinct characters of `utf8` that Windows-1252 cannot hold, each as its UTF-8 bytes,
+// in the order of their first appearance.
+std::vector<std::string> charactersOutsideCp1252(std::string_view utf8);
+
+// Appends `utf8` with each byte of a malformed sequence replaced by "?".
+void appendCleanUtf8(std::string &out, std::string_view utf8);
 
 std::string toCp1252(std::string_view utf8);
 std::string toUtf8(std::string_view cp1252);

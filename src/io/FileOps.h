@@ -1,7 +1,5 @@
 #pragma once
 
-#include "io/ByteBuffer.h"
-
 #include <cstddef>
 #include <string>
 
@@ -31,7 +29,7 @@ public:
     virtual ~FileOps() = default;
 
     // Reads the whole file at `path` into `bytes`.
-    virtual int readAll(const std::string &path, ByteBuffer &bytes) = 0;
+    virtual int readAll(const std::string &path, std::string &bytes) = 0;
     // Creates the file `path`, which must not exist yet, for writing. When `modelPath` names
     // an existing file the new one is readable by its owner only, until setMode gives it the
     // model's permissions: a failure there must not leave it more open than the model.
@@ -48,9 +46,6 @@ public:
     virtual int link(const std::string &from, const std::string &to) = 0;
     // Writes up to `size` bytes, setting `written` to the number actually written.
     virtual int write(int handle, const char *data, size_t size, size_t &written) = 0;
-    // Asks the system to start writing what was written so far to the storage device, ahead
-    // of the sync that waits for it. Only a hint: it reports nothing.
-    virtual void startWriteback(int /*handle*/) {}
     // Forces the written bytes to the storage device.
     virtual int sync(int handle) = 0;
     virtual int close(int handle) = 0;

@@ -1,6 +1,5 @@
 #include "io/SafeSave.h"
 
-#include "io/ChunkWriter.h"
 #include "io/TemporaryFileGuard.h"
 
 #include <algorithm>
@@ -107,13 +106,12 @@ void keepBackup(FileOps &ops,
     }
 }
 
-// Creates the temporary file, lets `fill` write it, then forces it to the device and renames
-// it over the target; on any failure, and when `fill` throws, the temporary file is removed.
-template<class Fill>
+// Creates the temporary file, writes `bytes` to it, forces it to the device and renames it
+// over the target; on any failure the temporary file is removed.
 FileWriteResult writeThroughTemporary(const std::string &path,
+                                      std::string_view bytes,
                                       FileOps &ops,
-                                      const SafeWriteOptions &options,
-                                      const Fill &fill)
+                                      const SafeWriteOptions &options)
 {
     static std::mt19937 random{std::random_device{}()};
 
@@ -149,13 +147,7 @@ FileWriteResult writeThroughTemporary(const std::string &path,
 
     if (replacing)
         keepAttributes(ops, handle, previous, result);
-    try {
-        error = fill(handle);
-    } catch (...) {
-        ops.close(handle);
-        ops.remove(temporary);
-        throw;
-    }
+    error = writeAll(ops, handle, bytes.data(), bytes.size());
     if (error == 0)
         error = ops.sync(handle);
     const int closeError = ops.close(handle);
@@ -255,25 +247,7 @@ FileWriteResult writeFileSafely(const std::string &path,
                                 FileOps &ops,
                                 const SafeWriteOptions &options)
 {
-    return writeThroughTemporary(path, ops, options, [&](int handle) {
-        return writeAll(ops, handle, bytes.data(), bytes.size());
-    });
-}
-
-FileWriteResult writeFileSafely(const std::string &path,
-                                const ChunkProducer &produce,
-                                FileOps &ops,
-                                const SafeWriteOptions &options)
-{
-    return writeThroughTemporary(path, ops, options, [&](int handle) {
-        // The device starts on each chunk as soon as it is written, so that the sync at the end
-        // has little left to wait for.
-        ChunkWriter writer(
-            [&](const char *data, std::size_t size) { return writeAll(ops, handle, data, size); },
-            [&] { ops.startWriteback(handle); });
-        produce(writer);
-        return writer.finish();
-    });
+    return writeThroughTemporary(path, bytes, ops, options);
 }
 
 } // namespace vorlane

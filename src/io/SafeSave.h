@@ -1,6 +1,5 @@
 #pragma once
 
-#include "io/ChunkSink.h"
 #include "io/FileOps.h"
 
 #include <string>
@@ -40,14 +39,6 @@ inline constexpr int ProjectBackups = 3;
 // remains.
 FileWriteResult writeFileSafely(const std::string &path,
                                 std::string_view bytes,
-                                FileOps &ops,
-                                const SafeWriteOptions &options = {});
-
-// The same for the bytes `produce` hands to its sink, which are written while it produces
-// the next ones. When `produce` throws, the temporary file is removed and the exception
-// passes on.
-FileWriteResult writeFileSafely(const std::string &path,
-                                const ChunkProducer &produce,
                                 FileOps &ops,
                                 const SafeWriteOptions &options = {});
 

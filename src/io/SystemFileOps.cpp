@@ -22,7 +22,7 @@ int closeKeepingError(int handle, int error)
 
 } // namespace
 
-int SystemFileOps::readAll(const std::string &path, ByteBuffer &bytes)
+int SystemFileOps::readAll(const std::string &path, std::string &bytes)
 {
     // Non-blocking, so that opening a pipe without a writer cannot hang before it is refused.
     const int handle = ::open(path.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK);
@@ -47,7 +47,7 @@ int SystemFileOps::readAll(const std::string &path, ByteBuffer &bytes)
     // A file too large for the memory there is is reported like any unreadable file.
     const auto makeRoom = [&bytes](size_t size) {
         try {
-            bytes.reserve(size);
+            bytes.resize(size);
             return true;
         } catch (const std::bad_alloc &) {
             return false;
@@ -55,13 +55,13 @@ int SystemFileOps::readAll(const std::string &path, ByteBuffer &bytes)
     };
     if (!makeRoom(static_cast<size_t>(info.st_size) + 1))
         return closeKeepingError(handle, ENOMEM);
+    size_t size = 0; // the bytes read so far; the rest of `bytes` is room
     for (;;) {
-        if (bytes.size() == bytes.capacity() && !makeRoom(bytes.capacity() * 2)) {
+        if (size == bytes.size() && !makeRoom(bytes.size() * 2)) {
             bytes.clear();
             return closeKeepingError(handle, ENOMEM);
         }
-        const ssize_t n =
-            ::read(handle, bytes.data() + bytes.size(), bytes.capacity() - bytes.size());
+        const ssize_t n = ::read(handle, bytes.data() + size, bytes.size() - size);
         if (n < 0) {
             if (errno == EINTR)
                 continue;
@@ -71,12 +71,13 @@ int SystemFileOps::readAll(const std::string &path, ByteBuffer &bytes)
         }
         if (n == 0)
             break;
-        bytes.setSize(bytes.size() + static_cast<size_t>(n));
-        if (bytes.size() > static_cast<size_t>(MaxProjectFileSize)) { // it grew meanwhile
+        size += static_cast<size_t>(n);
+        if (size > static_cast<size_t>(MaxProjectFileSize)) { // it grew meanwhile
             bytes.clear();
             return closeKeepingError(handle, FileTooLarge);
         }
     }
+    bytes.resize(size);
     ::close(handle);
     return 0;
 }
@@ -168,11 +169,6 @@ int SystemFileOps::write(int handle, const char *data, size_t size, size_t &writ
         if (errno != EINTR)
             return errno;
     }
-}
-
-void SystemFileOps::startWriteback(int handle)
-{
-    ::sync_file_range(handle, 0, 0, SYNC_FILE_RANGE_WRITE);
 }
 
 int SystemFileOps::sync(int handle)

@@ -8,7 +8,7 @@ namespace vorlane {
 class SystemFileOps : public FileOps
 {
 public:
-    int readAll(const std::string &path, ByteBuffer &bytes) override;
+    int readAll(const std::string &path, std::string &bytes) override;
     int createNew(const std::string &path, const std::string &modelPath, int &handle) override;
     int inspect(const std::string &path, PathInfo &info) override;
     int readLink(const std::string &path, std::string &target) override;
@@ -16,7 +16,6 @@ public:
     int setOwner(int handle, long uid, long gid) override;
     int link(const std::string &from, const std::string &to) override;
     int write(int handle, const char *data, size_t size, size_t &written) override;
-    void startWriteback(int handle) override;
     int sync(int handle) override;
     int close(int handle) override;
     int rename(const std::string &from, const std::string &to) override;

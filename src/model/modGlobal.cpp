@@ -17,9 +17,7 @@ void freeSlots(Table &table)
 
 std::unique_ptr<Document> makeDocument()
 {
-    // Every member has its initial value written where it is declared, so the document is
-    // made without first clearing all of it, which large memory has done already.
-    return std::unique_ptr<Document>(new Document);
+    return std::make_unique<Document>();
 }
 
 void InitData(Document &doc)

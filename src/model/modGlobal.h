@@ -1,7 +1,5 @@
 #pragma once
 
-#include "model/LargeMemory.h"
-
 #include <array>
 #include <cstdint>
 #include <memory>
@@ -339,14 +337,11 @@ inline constexpr std::array<std::string_view, LogModuleCount> LogModuleFiles{"ca
                                                                              "cvideo.cpp"};
 
 // Everything a running editor knows about the open project: the tables, the settings, the
-// counters and the nine object lists. Large (about 10 MB): create it with makeDocument().
+// counters and the nine object lists. An ordinary value: copied, compared and kept like any
+// other. About 10 MB, most of it the sprites' frames, so it lives on the heap
+// (makeDocument()), never on the stack.
 struct Document
 {
-    // About 10 MB, most of it the sprites' frames: it lives in large memory, which its
-    // construction fills in a few huge pages.
-    static void *operator new(std::size_t size) { return allocateLarge(size); }
-    static void operator delete(void *data, std::size_t size) noexcept { freeLarge(data, size); }
-
     std::array<ButtonRec, 101> Buttons{};
     std::array<CursorRec, 26> Cursors{};
     std::array<ImageRec, 201> Images{};
@@ -383,6 +378,7 @@ struct Document
     bool operator==(const Document &) const = default;
 };
 
+// A new document with every initial value: std::make_unique<Document>().
 std::unique_ptr<Document> makeDocument();
 
 // The file Save writes: ProjectInfo.projectFilePath, taken against the folder of the file the

@@ -39,7 +39,7 @@ OpenOutcome openProject(Document &doc,
         clearLists(doc);
     }
 
-    ByteBuffer bytes;
+    std::string bytes;
     if (const int error = ops.readAll(chosenPath, bytes); error != 0) {
         progress.end();
         outcome.status = OpenOutcome::Status::Unreadable;

@@ -1,10 +1,12 @@
 #include "project/ProjectCheck.h"
 
+#include "io/Cp1252.h"
 #include "model/Kinds.h"
 #include "project/MissingFiles.h"
 #include "project/ProjectLayout.h"
 #include "rules/SceneRules.h"
 
+#include <algorithm>
 #include <array>
 #include <optional>
 #include <tuple>
@@ -92,6 +94,17 @@ std::string counted(int count, const char *what)
 
 constexpr const char *NotReadBack = "; the saved file will not read back intact";
 
+// The texts of the project file that no engine file holds: the project's own name and paths.
+// (The data folder in app.cfg comes from the folder chosen when generating, not from these.)
+constexpr std::array<std::string_view, 4> ProjectOnlyTexts{
+    "projectName", "projectFilePath", "generatePath", "rootFolder"};
+
+bool reachesEngine(std::string_view field)
+{
+    return std::find(ProjectOnlyTexts.begin(), ProjectOnlyTexts.end(), field) ==
+           ProjectOnlyTexts.end();
+}
+
 class Checker
 {
 public:
@@ -162,8 +175,11 @@ private:
             [&](const auto &...field) {
                 (
                     [&](const auto &one) {
-                        if constexpr (IsTextField<std::decay_t<decltype(one)>>::value)
+                        if constexpr (IsTextField<std::decay_t<decltype(one)>>::value) {
                             checkCarried(prefix + one.name, rec.*one.member);
+                            if (reachesEngine(one.name))
+                                checkEngineReads(prefix + one.name, rec.*one.member);
+                        }
                     }(field),
                     ...);
             },
@@ -181,6 +197,18 @@ private:
                        "carry" +
                        NotReadBack,
                    true);
+    }
+
+    // The engine files are Windows-1252: a character it cannot hold is written as "?".
+    void checkEngineReads(const std::string &name, std::string_view value)
+    {
+        const std::vector<std::string> unreadable = charactersOutsideCp1252(value);
+        if (unreadable.empty())
+            return;
+        std::string list;
+        for (const std::string &character : unreadable)
+            list.append(list.empty() ? "" : ", ").append(character);
+        report(name + " has characters the engine cannot read: " + list);
     }
 
     void checkCarried(const ButtonRec &button)
@@ -411,6 +439,14 @@ private:
     {
         const AppSettingsRec &app = m_doc.AppSettings;
         m_subject = "log";
+        if (app.customFilterCount > layout::MaxCustomFilters) {
+            const int over = app.customFilterCount - layout::MaxCustomFilters;
+            report("customFilterCount is " + std::to_string(app.customFilterCount) +
+                       ", more than the " + std::to_string(layout::MaxCustomFilters) +
+                       " custom filters a project file holds: remove " +
+                       counted(over, "custom filter") + " in Edit Custom Filters" + NotReadBack,
+                   true);
+        }
         checkCount(
             "customFilterCount", app.customFilterCount, usedIn(app.CustomFilters), "custom filter");
         if (app.customFilterCount < 1)

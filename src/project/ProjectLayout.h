@@ -5,6 +5,7 @@
 #include <cstdint>
 #include <limits>
 #include <string>
+#include <string_view>
 #include <tuple>
 
 // The lines of a project file, field by field. The writer and the reader both walk these
@@ -47,12 +48,22 @@ constexpr IntField<Rec, int32_t> i32(const char *name, int32_t Rec::*member)
     return {name, member, std::numeric_limits<int32_t>::min(), std::numeric_limits<int32_t>::max()};
 }
 
-// A count that decides how many lines follow; it may not exceed the slots it fills.
+// A count that decides how many lines follow; it may not exceed the slots it fills. Its own
+// type, so that a form that holds the lines themselves (the JSON form) can leave it out.
 template<class Rec>
-constexpr IntField<Rec, int16_t> count(const char *name, int16_t Rec::*member, int max)
+struct CountField : IntField<Rec, int16_t>
 {
-    return {name, member, 0, max};
+};
+
+template<class Rec>
+constexpr CountField<Rec> count(const char *name, int16_t Rec::*member, int max)
+{
+    return {{name, member, 0, max}};
 }
+
+// The byte order mark that begins a project file written in UTF-8; a file without it is
+// Windows-1252, as every file was before UTF-8 was needed.
+inline constexpr std::string_view Utf8Mark = "\xEF\xBB\xBF";
 
 inline constexpr int MaxCustomFilters = CustomFilterSlots - 1; // the reader fills slots 1..50
 

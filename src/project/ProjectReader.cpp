@@ -34,10 +34,14 @@ std::string joined(std::string_view a, std::string_view b, std::string_view c = 
 class FieldReader
 {
 public:
-    explicit FieldReader(std::string_view bytes)
+    FieldReader(std::string_view bytes, bool utf8, const ReadOptions &options)
         : m_pos(bytes.data())
         , m_end(bytes.data() + bytes.size())
+        , m_utf8(utf8)
+        , m_options(options)
     {}
+
+    const ReadOptions &options() const { return m_options; }
 
     void text(std::string &out, const char *name)
     {
@@ -66,7 +70,11 @@ public:
             out.assign(begin, p);
         } else {
             out.clear();
-            appendUtf8(out, std::string_view(begin, static_cast<size_t>(p - begin)));
+            const std::string_view bytes(begin, static_cast<size_t>(p - begin));
+            if (m_utf8)
+                appendCleanUtf8(out, bytes);
+            else
+                appendUtf8(out, bytes);
         }
         m_pos = p + 1;
         endField(name);
@@ -203,6 +211,8 @@ private:
 
     const char *m_pos;
     const char *m_end;
+    bool m_utf8;
+    ReadOptions m_options;
     int m_line = 1;
 };
 
@@ -230,7 +240,8 @@ void readRecord(FieldReader &in, ButtonRec &button)
     if (layout::isHotSpotId(button.id)) {
         // A hot spot's cursor is dropped on purpose: it comes back as "null".
         button.isHotSpot = 1;
-        button.cursorId = "null";
+        if (!in.options().keepFileValues)
+            button.cursorId = "null";
         button.frameDisabled = 0;
         button.frameUp = 1;
         for (std::string *reference : {&button.captionTextId,
@@ -338,7 +349,10 @@ void readApplication(FieldReader &in, AppSettingsRec &app)
     if (app.splashEnabled == 1) {
         readFields(in, app, layout::AppSplashLine);
     } else {
+        const int16_t splashEnabled = app.splashEnabled;
         resetSplash(app);
+        if (in.options().keepFileValues)
+            app.splashEnabled = splashEnabled;
     }
     readFields(in, app, layout::AppLine3);
 }
@@ -385,9 +399,21 @@ void readDocument(FieldReader &in, Document &doc, ProgressSink &progress)
 
 ProjectReadResult readProject(std::string_view bytes, Document &doc, ProgressSink &progress)
 {
+    return readProject(bytes, doc, progress, ReadOptions{});
+}
+
+ProjectReadResult readProject(std::string_view bytes,
+                              Document &doc,
+                              ProgressSink &progress,
+                              const ReadOptions &options)
+{
     if (bytes.empty())
         return {ProjectReadResult::Status::Empty, 0, {}};
-    FieldReader in(bytes);
+    // A file that begins with the byte order mark is UTF-8; any other is Windows-1252.
+    const bool utf8 = bytes.starts_with(layout::Utf8Mark);
+    if (utf8)
+        bytes.remove_prefix(layout::Utf8Mark.size());
+    FieldReader in(bytes, utf8, options);
     try {
         readDocument(in, doc, progress);
     } catch (Damage &damage) {

@@ -8,6 +8,15 @@
 
 namespace vorlane {
 
+// How the reader treats what the program does not keep.
+struct ReadOptions
+{
+    // Keep the two values of the file that Open drops: the cursor of a hot spot's line
+    // (instead of "null") and a splashEnabled other than 1 (instead of 0), for the forms that
+    // must carry everything the file holds (the JSON export).
+    bool keepFileValues = false;
+};
+
 // What reading a project file came to.
 struct ProjectReadResult
 {
@@ -21,9 +30,10 @@ struct ProjectReadResult
     std::string message; // Damaged: what was expected there ("a number was expected for x")
 };
 
-// Reads the project file `bytes` (Windows-1252, CR LF or LF line ends) into `doc` and appends
-// each object's id to its list, with the slot as the line's item data. The document is not
-// cleared first. Reports the "Loading ..." labels and one step per object to `progress`.
+// Reads the project file `bytes` (UTF-8 when it begins with the byte order mark EF BB BF, a
+// malformed sequence's bytes read as "?"; Windows-1252 otherwise; CR LF or LF line ends) into `doc`
+// and appends each object's id to its list, with the slot as the line's item data. The document is
+// not cleared first. Reports the "Loading ..." labels and one step per object to `progress`.
 //
 // The reader is field-oriented: a comma, a line end (CR LF or LF) and the end of the file
 // all end a field. A text field is a double quote, any bytes other than a double quote, CR
@@ -35,6 +45,12 @@ ProjectReadResult readProject(std::string_view bytes, Document &doc, ProgressSin
 
 // The same, without progress reports.
 ProjectReadResult readProject(std::string_view bytes, Document &doc);
+
+// The same, read as `options` say.
+ProjectReadResult readProject(std::string_view bytes,
+                              Document &doc,
+                              ProgressSink &progress,
+                              const ReadOptions &options);
 
 // "FILE:LINE: MESSAGE", the form in which damage is shown.
 std::string damageText(std::string_view file, int line, std::string_view message);

@@ -29,30 +29,23 @@ constexpr auto SmallNumbers = [] {
     return table;
 }();
 
-// Builds the file in a buffer: the whole file in one, or chunk by chunk when the chunks go
-// to a sink. Every write claims its room first and then fills it through a pointer, so
-// writing a field never allocates.
+// Builds the file in one buffer. Every write claims its room first and then fills it through
+// a pointer, so writing a field never allocates.
 class LineWriter
 {
 public:
-    explicit LineWriter(size_t expectedSize)
+    LineWriter(size_t expectedSize, bool utf8)
+        : m_utf8(utf8)
     {
-        m_buf.reserve(expectedSize);
+        m_buf.resize(expectedSize);
         m_cur = m_buf.data();
-        m_limit = m_buf.data() + m_buf.capacity();
-    }
-
-    explicit LineWriter(ChunkSink &sink)
-        : m_sink(&sink)
-    {
-        m_buf = sink.next(0);
-        m_cur = m_buf.data();
-        m_limit = m_buf.data() + m_buf.capacity();
+        m_limit = m_buf.data() + m_buf.size();
+        start();
     }
 
     void text(std::string_view utf8)
     {
-        // Windows-1252 never takes more bytes than the UTF-8 it comes from.
+        // Neither Windows-1252 nor cleaned UTF-8 takes more bytes than the UTF-8 it comes from.
         char *p = room(utf8.size() + 2);
         *p++ = '"';
         size_t ascii = 0;
@@ -62,7 +55,10 @@ public:
         p += ascii;
         if (ascii < utf8.size()) {
             m_scratch.clear();
-            appendCp1252(m_scratch, utf8.substr(ascii));
+            if (m_utf8)
+                appendCleanUtf8(m_scratch, utf8.substr(ascii));
+            else
+                appendCp1252(m_scratch, utf8.substr(ascii));
             std::memcpy(p, m_scratch.data(), m_scratch.size());
             p += m_scratch.size();
         }
@@ -102,21 +98,24 @@ public:
         m_cur = p + 2;
     }
 
-    ByteBuffer take()
+    std::string take()
     {
-        m_buf.setSize(static_cast<size_t>(m_cur - m_buf.data()));
+        m_buf.resize(static_cast<size_t>(m_cur - m_buf.data()));
+        m_cur = m_limit = nullptr;
         return std::move(m_buf);
     }
 
-    // Hands what is left to the sink.
-    void finish()
+private:
+    // A UTF-8 file begins with its byte order mark.
+    void start()
     {
-        m_buf.setSize(static_cast<size_t>(m_cur - m_buf.data()));
-        m_sink->put(std::move(m_buf));
-        m_cur = m_limit = nullptr;
+        if (!m_utf8)
+            return;
+        char *p = room(layout::Utf8Mark.size());
+        std::memcpy(p, layout::Utf8Mark.data(), layout::Utf8Mark.size());
+        m_cur = p + layout::Utf8Mark.size();
     }
 
-private:
     // Writes `value` at `p`, which has room for it, and returns the end.
     static char *put(char *p, int32_t value)
     {
@@ -135,28 +134,41 @@ private:
         return m_cur;
     }
 
-    // Makes room for `size` more bytes: hands the chunk to the sink and goes on in a fresh
-    // one, or grows the one buffer.
+    // Makes room for `size` more bytes, keeping what is written.
     void grow(size_t size)
     {
         const size_t used = static_cast<size_t>(m_cur - m_buf.data());
-        m_buf.setSize(used);
-        if (m_sink) {
-            m_sink->put(std::move(m_buf));
-            m_buf = m_sink->next(size);
-            m_cur = m_buf.data();
-        } else {
-            m_buf.reserve(std::max(m_buf.capacity() * 2, used + size));
-            m_cur = m_buf.data() + used;
-        }
-        m_limit = m_buf.data() + m_buf.capacity();
+        m_buf.resize(std::max(m_buf.size() * 2, used + size));
+        m_cur = m_buf.data() + used;
+        m_limit = m_buf.data() + m_buf.size();
     }
 
-    ChunkSink *m_sink = nullptr;
-    ByteBuffer m_buf; // written up to m_cur; the rest is room
+    std::string m_buf; // written up to m_cur; the rest is room
     char *m_cur = nullptr;
     char *m_limit = nullptr;
+    bool m_utf8 = false;
     std::string m_scratch;
+};
+
+// Walks the document as the writer does, writing nothing: it only finds whether every text
+// fits Windows-1252.
+class TextScanner
+{
+public:
+    void text(std::string_view utf8)
+    {
+        if (m_fits && !fitsCp1252(utf8))
+            m_fits = false;
+    }
+    void number(int32_t) {}
+    void cells(const std::array<FrameRec, SubSlotCount> &) {}
+    void comma() {}
+    void endLine() {}
+
+    bool fits() const { return m_fits; }
+
+private:
+    bool m_fits = true;
 };
 
 // A fair guess at the file's size, so that its buffer rarely needs to grow: the sprites'
@@ -177,21 +189,21 @@ size_t expectedSize(const Document &doc)
     return size;
 }
 
-template<class Rec, class R>
-void writeField(LineWriter &out, const Rec &rec, const layout::TextField<R> &field)
+template<class Out, class Rec, class R>
+void writeField(Out &out, const Rec &rec, const layout::TextField<R> &field)
 {
     out.text(rec.*field.member);
 }
 
-template<class Rec, class R, class Int>
-void writeField(LineWriter &out, const Rec &rec, const layout::IntField<R, Int> &field)
+template<class Out, class Rec, class R, class Int>
+void writeField(Out &out, const Rec &rec, const layout::IntField<R, Int> &field)
 {
     out.number(rec.*field.member);
 }
 
 // Writes the fields of `line` from `rec`, joined by commas, without ending the line.
-template<class Rec, class Line>
-void writeFields(LineWriter &out, const Rec &rec, const Line &line)
+template<class Out, class Rec, class Line>
+void writeFields(Out &out, const Rec &rec, const Line &line)
 {
     std::apply(
         [&](const auto &first, const auto &...rest) {
@@ -201,14 +213,15 @@ void writeFields(LineWriter &out, const Rec &rec, const Line &line)
         line);
 }
 
-template<class Rec, class Line>
-void writeLine(LineWriter &out, const Rec &rec, const Line &line)
+template<class Out, class Rec, class Line>
+void writeLine(Out &out, const Rec &rec, const Line &line)
 {
     writeFields(out, rec, line);
     out.endLine();
 }
 
-void writeRecord(LineWriter &out, const ButtonRec &button)
+template<class Out>
+void writeRecord(Out &out, const ButtonRec &button)
 {
     writeFields(out, button, layout::ButtonHead);
     out.comma();
@@ -219,32 +232,38 @@ void writeRecord(LineWriter &out, const ButtonRec &button)
     out.endLine();
 }
 
-void writeRecord(LineWriter &out, const ImageRec &image)
+template<class Out>
+void writeRecord(Out &out, const ImageRec &image)
 {
     writeLine(out, image, layout::ImageLine);
 }
 
-void writeRecord(LineWriter &out, const CursorRec &cursor)
+template<class Out>
+void writeRecord(Out &out, const CursorRec &cursor)
 {
     writeLine(out, cursor, layout::CursorLine);
 }
 
-void writeRecord(LineWriter &out, const TextRec &text)
+template<class Out>
+void writeRecord(Out &out, const TextRec &text)
 {
     writeLine(out, text, layout::TextLine);
 }
 
-void writeRecord(LineWriter &out, const FontRec &font)
+template<class Out>
+void writeRecord(Out &out, const FontRec &font)
 {
     writeLine(out, font, layout::FontLine);
 }
 
-void writeRecord(LineWriter &out, const MusicRec &music) // also sound effects
+template<class Out>
+void writeRecord(Out &out, const MusicRec &music) // also sound effects
 {
     writeLine(out, music, layout::MusicLine);
 }
 
-void writeRecord(LineWriter &out, const SpriteRec &sprite)
+template<class Out>
+void writeRecord(Out &out, const SpriteRec &sprite)
 {
     writeLine(out, sprite, layout::SpriteLine);
     if (sprite.animCount <= 0)
@@ -259,7 +278,8 @@ void writeRecord(LineWriter &out, const SpriteRec &sprite)
     }
 }
 
-void writeRecord(LineWriter &out, const SceneRec &scene)
+template<class Out>
+void writeRecord(Out &out, const SceneRec &scene)
 {
     writeLine(out, scene, layout::SceneLine);
     if (scene.layerCount <= 0)
@@ -269,7 +289,8 @@ void writeRecord(LineWriter &out, const SceneRec &scene)
             writeLine(out, layer, layout::LayerLine);
 }
 
-void writeLog(LineWriter &out, const AppSettingsRec &app)
+template<class Out>
+void writeLog(Out &out, const AppSettingsRec &app)
 {
     writeLine(out, app, layout::LogCountsLine);
     for (int16_t value : app.logTypeFilters) {
@@ -288,7 +309,8 @@ void writeLog(LineWriter &out, const AppSettingsRec &app)
             writeLine(out, filter, layout::CustomFilterLine);
 }
 
-void writeDocument(LineWriter &out, const Document &doc, ProgressSink &progress)
+template<class Out>
+void writeDocument(Out &out, const Document &doc, ProgressSink &progress)
 {
     writeLine(out, doc.ProjectInfo, layout::ProjectNameLine);
     writeLine(out, doc.ProjectInfo, layout::ProjectPathLine);
@@ -326,21 +348,22 @@ void writeDocument(LineWriter &out, const Document &doc, ProgressSink &progress)
 
 } // namespace
 
-ByteBuffer projectFileBytes(const Document &doc, ProgressSink &progress)
+bool projectNeedsUtf8(const Document &doc)
 {
-    LineWriter out(expectedSize(doc));
+    TextScanner scanner;
+    ProgressSink quiet;
+    writeDocument(scanner, doc, quiet);
+    return !scanner.fits();
+}
+
+std::string projectFileBytes(const Document &doc, ProgressSink &progress)
+{
+    LineWriter out(expectedSize(doc), projectNeedsUtf8(doc));
     writeDocument(out, doc, progress);
     return out.take();
 }
 
-void writeProjectFile(const Document &doc, ProgressSink &progress, ChunkSink &sink)
-{
-    LineWriter out(sink);
-    writeDocument(out, doc, progress);
-    out.finish();
-}
-
-ByteBuffer projectFileBytes(const Document &doc)
+std::string projectFileBytes(const Document &doc)
 {
     ProgressSink quiet;
     return projectFileBytes(doc, quiet);

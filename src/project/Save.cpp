@@ -39,10 +39,7 @@ SaveResult saveProject(Document &doc, UserInterface &ui, ProgressSink &progress,
     removeNewObjects(doc);
     const std::string path = projectSavePath(doc);
     FileWriteResult written = writeFileSafely(
-        path,
-        [&](ChunkSink &sink) { writeProjectFile(doc, progress, sink); },
-        ops,
-        SafeWriteOptions{ProjectBackups});
+        path, projectFileBytes(doc, progress), ops, SafeWriteOptions{ProjectBackups});
     progress.end();
 
     if (!written.ok) {

@@ -70,9 +70,18 @@ std::optional<std::string> resolveObjectPath(std::string_view stored,
     return joined(projectFolder, path);
 }
 
+std::string pathsProjectFile(const Document &doc)
+{
+    // The path the file records of itself may come from another machine or hold no folder;
+    // the file that was opened is where the project's files really lie.
+    if (!doc.openedFrom.empty())
+        return doc.openedFrom;
+    return projectSavePath(doc);
+}
+
 std::optional<std::string> resolveObjectPath(const Document &doc, std::string_view stored)
 {
-    return resolveObjectPath(stored, doc.AppSettings.rootFolder, doc.ProjectInfo.projectFilePath);
+    return resolveObjectPath(stored, doc.AppSettings.rootFolder, pathsProjectFile(doc));
 }
 
 } // namespace vorlane

@@ -16,6 +16,10 @@ std::optional<std::string> resolveObjectPath(std::string_view stored,
                                              std::string_view rootFolder,
                                              std::string_view projectFile);
 
+// The project file whose folder relative paths count from: the file the project was opened
+// from, else (a new project saved since) the file it was saved to; empty before either.
+std::string pathsProjectFile(const Document &doc);
+
 // The same with the root folder and project file of the open project.
 std::optional<std::string> resolveObjectPath(const Document &doc, std::string_view stored);
 

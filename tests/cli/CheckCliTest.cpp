@@ -1,6 +1,8 @@
 #include "cli/Cli.h"
 
 #include "project/ProjectTestSupport.h"
+#include "project/ProjectWriter.h"
+#include "rules/LogFilterRules.h"
 
 #include <gtest/gtest.h>
 
@@ -162,6 +164,39 @@ TEST(CheckCli, BinaryExitCodes)
     EXPECT_EQ(exitCodeOfBinary("check '" + broken + "'"), 1);
     EXPECT_EQ(exitCodeOfBinary("check '" + folder.file("missing.dvb") + "'"), 1);
     EXPECT_EQ(exitCodeOfBinary("check"), 2);
+}
+
+TEST(CheckCli, ReportsTextsTheEngineCannotReadAndExitsOne)
+{
+    TempFolder folder;
+    const std::string path = folder.file("game.dvb");
+    writeBytes(path, "\xEF\xBB\xBF" + project("imgButtons", "Квест Пр"));
+    const CliRun r = run({"check", path});
+    EXPECT_EQ(r.code, 1);
+    EXPECT_EQ(r.out,
+              path + ": application: windowCaption has characters the engine cannot read: К, в, е, "
+                     "с, т, П, р\n");
+    EXPECT_EQ(r.err, "");
+}
+
+TEST(CheckCli, AFileSavedWithMoreCustomFiltersThanTheReaderTakesIsReported)
+{
+    // 51 filters made as the custom filter window makes them, saved as Save writes them.
+    auto doc = makeDocument();
+    doc->ProjectInfo.projectName = "Game";
+    ObjectList list;
+    for (int i = 0; i < 51; ++i)
+        createCustomFilter(*doc, list, "Filter " + std::to_string(i));
+    doc->AppSettings.customFilterCount = static_cast<int16_t>(list.lines.size());
+    const std::string bytes = projectFileBytes(*doc);
+
+    TempFolder folder;
+    const std::string path = folder.file("game.dvb");
+    writeBytes(path, std::string(bytes.data(), bytes.size()));
+    const CliRun r = run({"check", path});
+    EXPECT_EQ(r.code, 1);
+    EXPECT_EQ(r.out, "");
+    EXPECT_EQ(r.err, "vorlane-cli: " + path + ":33: customFilterCount must lie between 0 and 50\n");
 }
 
 } // namespace

@@ -1,6 +1,8 @@
 #include "project/ProjectCheck.h"
 
+#include "generate/EngineFiles.h"
 #include "model/Kinds.h"
+#include "rules/LogFilterRules.h"
 #include "project/ProjectReader.h"
 #include "project/ProjectTestSupport.h"
 #include "project/ProjectWriter.h"
@@ -588,7 +590,7 @@ TEST_F(CheckProject, ASaveShowsOnlyWhatHitsTheProjectFile)
 TEST_F(CheckProject, WhatIsReportedDoesNotReadBack)
 {
     doc->Texts[0].content = "x\",y";
-    const std::string bytes = projectFileBytes(*doc).str();
+    const std::string bytes = projectFileBytes(*doc);
     auto reread = makeDocument();
     const ProjectReadResult read = readProject(bytes, *reread);
     EXPECT_TRUE(read.status != ProjectReadResult::Status::Read ||
@@ -596,8 +598,7 @@ TEST_F(CheckProject, WhatIsReportedDoesNotReadBack)
 
     doc->Texts[0].content = "x\"y";
     auto intact = makeDocument();
-    ASSERT_EQ(readProject(projectFileBytes(*doc).str(), *intact).status,
-              ProjectReadResult::Status::Read);
+    ASSERT_EQ(readProject(projectFileBytes(*doc), *intact).status, ProjectReadResult::Status::Read);
     EXPECT_EQ(intact->Texts[0].content, "x\"y");
 }
 
@@ -611,6 +612,110 @@ TEST(ProjectFileCarries, LineBreaksAndQuoteCommasOnly)
     EXPECT_FALSE(projectFileCarries("x\","));
     EXPECT_FALSE(projectFileCarries("a\rb"));
     EXPECT_FALSE(projectFileCarries("a\nb"));
+}
+
+TEST_F(CheckProject, ReportsEveryEngineTextWithCharactersTheEngineCannotRead)
+{
+    Document &d = *doc;
+    d.AppSettings.windowCaption = "Quest 日本";
+    d.AppSettings.splashImagePath = "gfx\\заставка😀.bmp";
+    d.Buttons[0].id = "cmdСтарт";
+    d.Scenes[0].layers[3].objectId = "cmdСтарт";
+    d.Images[0].path = "gfx\\герой.bmp";
+    d.Texts[0].content = "ПрП р";
+    d.Sprites[0].anims[0].id = "stand😀";
+    d.AppSettings.CustomFilters[1].text = "Игрок: ";
+    EXPECT_EQ(check(),
+              (Lines{"game.dvb: application: windowCaption has characters the engine cannot "
+                     "read: 日, 本",
+                     "game.dvb: application: splashImagePath has characters the engine cannot "
+                     "read: з, а, с, т, в, к, 😀",
+                     "game.dvb: button \"cmdСтарт\": id has characters the engine cannot read: "
+                     "С, т, а, р",
+                     "game.dvb: image \"imgHero\": path has characters the engine cannot read: "
+                     "г, е, р, о, й",
+                     "game.dvb: text \"txtStart\": content has characters the engine cannot "
+                     "read: П, р",
+                     "game.dvb: sprite \"sprHero\": animation 1 id has characters the engine "
+                     "cannot read: 😀",
+                     "game.dvb: scene \"scnTitle\": layer 4 objectId has characters the engine "
+                     "cannot read: С, т, а, р",
+                     "game.dvb: custom filter 1: text has characters the engine cannot read: И, "
+                     "г, р, о, к"}));
+    // The project file keeps them all: nothing for a Save to show.
+    EXPECT_EQ(projectFileProblems(d, "game.dvb"), Lines{});
+    // The engine file holds "?" in their place, as it always has.
+    EXPECT_EQ(textDat(d).substr(0, 16), " 1\r\n??? ?* txtSt");
+}
+
+TEST_F(CheckProject, TheProjectsOwnNameAndPathsAreNoEngineTexts)
+{
+    Document &d = *doc;
+    d.ProjectInfo.projectName = "Проект";
+    d.ProjectInfo.projectFilePath = "/игры/Проект/game.dvb";
+    d.ProjectInfo.generatePath = "/игры/Проект/data/";
+    d.AppSettings.rootFolder = "/игры/Проект";
+    EXPECT_EQ(check(), Lines{});
+}
+
+TEST_F(CheckProject, ReportsTheEnginesCharactersOnlyInWhatTheEngineFilesHold)
+{
+    // A hot spot is written with its id and cursor only; the splash line only when it is on.
+    doc->Buttons[1].soundUp = "звук";
+    doc->AppSettings.splashEnabled = 0;
+    doc->AppSettings.splashImagePath = "заставка";
+    EXPECT_EQ(check(), Lines{});
+}
+
+// The custom filter window lets its list grow to 99 lines over the 51 slots; the reader takes
+// at most 50.
+std::unique_ptr<Document> withCustomFilters(int created)
+{
+    auto doc = makeDocument();
+    ObjectList list;
+    for (int i = 0; i < created; ++i)
+        EXPECT_FALSE(createCustomFilter(*doc, list, "Filter " + std::to_string(i)).refusal);
+    doc->AppSettings.customFilterCount = static_cast<int16_t>(list.lines.size());
+    return doc;
+}
+
+ProjectReadResult readBack(const Document &doc)
+{
+    const std::string bytes = projectFileBytes(doc);
+    auto reread = makeDocument();
+    return readProject(std::string_view(bytes.data(), bytes.size()), *reread);
+}
+
+TEST(CheckCustomFilterLimit, FiftyCustomFiltersReadBack)
+{
+    auto doc = withCustomFilters(50);
+    EXPECT_EQ(checkProject(*doc, "game.dvb"), Lines{});
+    EXPECT_EQ(readBack(*doc).status, ProjectReadResult::Status::Read);
+}
+
+TEST(CheckCustomFilterLimit, FiftyOneCustomFiltersAreFoundBeforeTheReaderRefusesThem)
+{
+    auto doc = withCustomFilters(51);
+    const Lines expected{"game.dvb: log: customFilterCount is 51, more than the 50 custom "
+                         "filters a project file holds: remove 1 custom filter in Edit Custom "
+                         "Filters; the saved file will not read back intact"};
+    EXPECT_EQ(checkProject(*doc, "game.dvb"), expected);
+    EXPECT_EQ(projectFileProblems(*doc, "game.dvb"), expected);
+    const ProjectReadResult result = readBack(*doc);
+    EXPECT_EQ(result.status, ProjectReadResult::Status::Damaged);
+    EXPECT_EQ(result.message, "customFilterCount must lie between 0 and 50");
+}
+
+TEST(CheckCustomFilterLimit, NinetyNineCustomFiltersNameHowManyToRemove)
+{
+    auto doc = withCustomFilters(99);
+    EXPECT_EQ(projectFileProblems(*doc, "game.dvb"),
+              (Lines{"game.dvb: log: customFilterCount is 99, more than the 50 custom filters a "
+                     "project file holds: remove 49 custom filters in Edit Custom Filters; the "
+                     "saved file will not read back intact",
+                     "game.dvb: log: customFilterCount is 99 but 51 custom filters in use; the "
+                     "saved file will not read back intact"}));
+    EXPECT_EQ(readBack(*doc).message, "customFilterCount must lie between 0 and 50");
 }
 
 } // namespace

@@ -2,6 +2,8 @@
 
 #include "CheckWarnings.h"
 #include "generate/GenerateTestSupport.h"
+#include "project/ProjectReader.h"
+#include "project/ProjectWriter.h"
 
 #include <gtest/gtest.h>
 
@@ -254,6 +256,115 @@ TEST(GenerateCli, BinaryReportsUsageWithExitTwo)
     const int status = pclose(pipe);
     ASSERT_TRUE(WIFEXITED(status));
     EXPECT_EQ(WEXITSTATUS(status), 2);
+}
+
+const std::vector<std::string> EngineFiles{"app.cfg",
+                                           "button.dat",
+                                           "image.dat",
+                                           "cursor.dat",
+                                           "text.dat",
+                                           "font.dat",
+                                           "music.dat",
+                                           "sfx.dat",
+                                           "sprite.dat",
+                                           "scene.dat",
+                                           "log.cfg"};
+
+TEST(GenerateCli, OutDirEndingInABackslashIsAFolderWrittenInside)
+{
+    TempFolder tmp;
+    const std::string outDir = tmp.withSeparator() + "out\\";
+    const auto r = generate({Project, outDir, "--root", tmp.path().string()});
+    EXPECT_EQ(r.code, 0) << r.err;
+    EXPECT_EQ(r.err,
+              questWarnings() + "vorlane-cli: warning: OUTDIR \"" + outDir +
+                  "\" ends in \"\\\", which is part of the folder's name on this system; the "
+                  "files are written inside that folder\n");
+    for (const auto &name : EngineFiles)
+        EXPECT_TRUE(fs::is_regular_file(fs::path(outDir) / name)) << name;
+    // Nothing beside it.
+    std::vector<std::string> entries;
+    for (const auto &entry : fs::directory_iterator(tmp.path()))
+        entries.push_back(entry.path().filename().string());
+    EXPECT_EQ(entries, std::vector<std::string>{"out\\"});
+    EXPECT_EQ(readBytes(fs::path(outDir) / "app.cfg").substr(0, 21), "out\\/* Korrin Quest* ");
+}
+
+TEST(GenerateCli, RootWithATrailingSeparatorLosesItAndIsWarnedOf)
+{
+    TempFolder tmp;
+    const std::string root = tmp.withSeparator() + "mygame/";
+    const std::string outDir = tmp.withSeparator() + "mygame/data";
+    const auto r = generate({Project, outDir, "--root", root});
+    EXPECT_EQ(r.code, 0) << r.err;
+    EXPECT_EQ(r.err,
+              questWarnings() + "vorlane-cli: warning: --root \"" + root +
+                  "\" ends in a separator; the application root folder is \"" +
+                  tmp.withSeparator() + "mygame\"\n");
+    EXPECT_EQ(readBytes(fs::path(outDir) / "app.cfg").substr(0, 21), "data/* Korrin Quest* ");
+}
+
+TEST(GenerateCli, RootWithATrailingBackslashLosesItToo)
+{
+    TempFolder tmp;
+    const std::string root = tmp.withSeparator() + "mygame\\";
+    const std::string outDir = tmp.withSeparator() + "mygame/data";
+    const auto r = generate({Project, outDir, "--root", root});
+    EXPECT_EQ(r.code, 0) << r.err;
+    EXPECT_EQ(r.err,
+              questWarnings() + "vorlane-cli: warning: --root \"" + root +
+                  "\" ends in a separator; the application root folder is \"" +
+                  tmp.withSeparator() + "mygame\"\n");
+    EXPECT_EQ(readBytes(fs::path(outDir) / "app.cfg").substr(0, 21), "data/* Korrin Quest* ");
+}
+
+TEST(GenerateCli, SiblingOfTheRootWhoseNameBeginsWithItIsWarnedOf)
+{
+    TempFolder tmp;
+    const std::string root = tmp.withSeparator() + "games/quest";
+    const std::string outDir = tmp.withSeparator() + "games/quest2";
+    const auto r = generate({Project, outDir, "--root", root});
+    EXPECT_EQ(r.code, 0) << r.err;
+    EXPECT_EQ(r.err,
+              questWarnings() + "vorlane-cli: warning: " + outDir +
+                  "/: the folder is not inside the application root folder " + root +
+                  ", though its path begins with the root's text; app.cfg names the data folder "
+                  "\"/\"\n");
+    EXPECT_EQ(readBytes(fs::path(outDir) / "app.cfg").substr(0, 17), "/* Korrin Quest* ");
+}
+
+TEST(GenerateCli, FolderInsideTheRootGivesNoWarningOfItsOwn)
+{
+    TempFolder tmp;
+    const std::string root = tmp.withSeparator() + "games/quest";
+    const std::string outDir = tmp.withSeparator() + "games/quest/quest2";
+    const auto r = generate({Project, outDir, "--root", root});
+    EXPECT_EQ(r.code, 0) << r.err;
+    EXPECT_EQ(r.err, questWarnings());
+    EXPECT_EQ(readBytes(fs::path(outDir) / "app.cfg").substr(0, 23), "quest2/* Korrin Quest* ");
+}
+
+TEST(GenerateCli, ACharacterTheEngineCannotReadIsWarnedOfAndWrittenAsAQuestionMark)
+{
+    TempFolder tmp;
+    auto doc = makeDocument();
+    const std::string quest = readBytes(Project);
+    ASSERT_EQ(readProject(quest, *doc).status, ProjectReadResult::Status::Read);
+    doc->AppSettings.windowCaption = "Korrin Квест";
+    const fs::path project = tmp.path() / "квест.dvb";
+    writeBytes(project, projectFileBytes(*doc));
+    ASSERT_EQ(readBytes(project).substr(0, 3), "\xEF\xBB\xBF");
+
+    const fs::path outDir = tmp.path() / "quest" / "data";
+    const auto r =
+        generate({project.string(), outDir.string(), "--root", (tmp.path() / "quest").string()});
+    EXPECT_EQ(r.code, 0) << r.err;
+    EXPECT_NE(r.err.find("vorlane-cli: warning: " + project.string() +
+                         ": application: windowCaption has characters the engine cannot read: "
+                         "К, в, е, с, т\n"),
+              std::string::npos)
+        << r.err;
+    EXPECT_EQ(readBytes(outDir / "app.cfg").substr(0, 22), "data/* Korrin ?????* g");
 }
 
 } // namespace

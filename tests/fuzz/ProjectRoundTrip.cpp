@@ -414,14 +414,14 @@ std::string ProjectRoundTrip::readBack(std::string_view bytes)
     for (Kind kind : FileOrder)
         (void)dataFile(*m_first, kind);
 
-    const std::string written = projectFileBytes(*m_first).str();
+    const std::string written = projectFileBytes(*m_first);
     const ProjectReadResult second = readProject(written, *m_second);
     if (second.status != ProjectReadResult::Status::Read)
         return "the file written from what was read does not read back: line " +
                std::to_string(second.line) + ": " + second.message;
     if (std::string difference = firstDifference(*m_first, *m_second, false); !difference.empty())
         return "the file written from what was read reads back differently: " + difference;
-    const std::string rewritten = projectFileBytes(*m_second).str();
+    const std::string rewritten = projectFileBytes(*m_second);
     if (rewritten != written) {
         const auto where =
             std::mismatch(written.begin(), written.end(), rewritten.begin(), rewritten.end());

@@ -1,7 +1,6 @@
 #include "generate/EngineFiles.h"
 
 #include "GenerateTestSupport.h"
-#include "io/CollectingSink.h"
 #include "model/Kinds.h"
 
 #include <gtest/gtest.h>
@@ -317,68 +316,43 @@ TEST_F(DataFiles, RecordCallbackRunsOncePerObject)
     for (int16_t slot = 0; slot < 4; ++slot)
         addObject(*doc, Kind::Sprite, doc->Sprites, slot, "s" + std::to_string(slot));
     int records = 0;
-    CollectingSink sink;
-    writeDataFile(sink, *doc, Kind::Sprite, [&] { ++records; });
+    const std::string bytes = dataFile(*doc, Kind::Sprite, [&] { ++records; });
     EXPECT_EQ(records, 4);
-    EXPECT_EQ(sink.bytes().view().substr(0, 7), " 4\r\ns0 ");
+    EXPECT_EQ(bytes.substr(0, 7), " 4\r\ns0 ");
+    EXPECT_EQ(bytes, spriteDat(*doc));
 }
 
-// Hands out chunks of exactly the room asked for, or `smallest` bytes, and keeps every
-// chunk it is given.
-class SmallChunks : public ChunkSink
-{
-public:
-    explicit SmallChunks(std::size_t smallest)
-        : m_smallest(smallest)
-    {}
-    ByteBuffer next(std::size_t room) override
-    {
-        ByteBuffer chunk;
-        chunk.reserve(std::max(room, m_smallest));
-        capacities.push_back(chunk.capacity());
-        return chunk;
-    }
-    void put(ByteBuffer full) override { chunks.push_back(full.str()); }
-
-    std::vector<std::size_t> capacities;
-    std::vector<std::string> chunks;
-
-private:
-    std::size_t m_smallest;
-};
-
-TEST_F(DataFiles, ALargeFileArrivesInChunksThatJoinToTheWholeFile)
+TEST_F(DataFiles, ManyLongRecordsAreWrittenWhole)
 {
     for (int16_t slot = 0; slot < 40; ++slot) {
         auto &t = addObject(*doc, Kind::Text, doc->Texts, slot, "txt" + std::to_string(slot));
         t.content =
             std::string(static_cast<size_t>(400 + slot), static_cast<char>('a' + slot % 26));
     }
-    SmallChunks sink(5000);
     int records = 0;
-    writeDataFile(sink, *doc, Kind::Text, [&] { ++records; });
+    const std::string bytes = dataFile(*doc, Kind::Text, [&] { ++records; });
     EXPECT_EQ(records, 40);
-    ASSERT_GT(sink.chunks.size(), 1u);
-    std::string joined;
-    for (std::size_t i = 0; i < sink.chunks.size(); ++i) {
-        EXPECT_LE(sink.chunks[i].size(), sink.capacities[i]);
-        joined += sink.chunks[i];
+    EXPECT_EQ(bytes, textDat(*doc));
+    EXPECT_EQ(bytes.substr(0, 11), " 40\r\naaaaaa");
+    // Each record: its content, the identifier and the rest of its line.
+    std::size_t at = 5;
+    for (int slot = 0; slot < 40; ++slot) {
+        const std::string content(static_cast<size_t>(400 + slot),
+                                  static_cast<char>('a' + slot % 26));
+        ASSERT_EQ(bytes.compare(at, content.size(), content), 0) << slot;
+        at = bytes.find("\r\n", at) + 2;
     }
-    EXPECT_EQ(joined, textDat(*doc));
-    EXPECT_EQ(joined.substr(0, 11), " 40\r\naaaaaa");
+    EXPECT_EQ(at, bytes.size());
 }
 
-TEST_F(DataFiles, ARecordLargerThanAChunkGetsAChunkOfItsOwn)
+TEST_F(DataFiles, ARecordLargerThanAnyLineIsWrittenWhole)
 {
     auto &t = addObject(*doc, Kind::Text, doc->Texts, 0, "txtLong");
     t.content = std::string(20000, 'x');
-    SmallChunks sink(4096);
-    writeDataFile(sink, *doc, Kind::Text);
-    ASSERT_EQ(sink.chunks.size(), 2u);
-    EXPECT_EQ(sink.chunks[0], " 1\r\n");
-    EXPECT_GE(sink.capacities[1], 20000u);
-    EXPECT_EQ(sink.chunks[0] + sink.chunks[1], textDat(*doc));
-    EXPECT_EQ(sink.chunks[1].substr(19998, 11), "xx* txtLong");
+    const std::string bytes = textDat(*doc);
+    EXPECT_EQ(bytes.substr(0, 4), " 1\r\n");
+    EXPECT_EQ(bytes.substr(4, 20000), std::string(20000, 'x'));
+    EXPECT_EQ(bytes.substr(20002, 11), "xx* txtLong");
 }
 
 TEST_F(DataFiles, FullSpriteTableWithWidestNumbers)

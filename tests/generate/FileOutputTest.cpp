@@ -1,6 +1,7 @@
 #include "generate/FileOutput.h"
 
 #include "GenerateTestSupport.h"
+#include "generate/GenData.h"
 #include "io/FailingFileOps.h"
 
 #include <gtest/gtest.h>
@@ -13,20 +14,8 @@
 namespace vorlane {
 namespace {
 
-// Puts `pieces` chunks of `size` bytes each, the n-th filled with the letter 'a' + n.
-ChunkProducer letters(int pieces, std::size_t size)
-{
-    return [pieces, size](ChunkSink &sink) {
-        for (int i = 0; i < pieces; ++i) {
-            ByteBuffer chunk = sink.next(size);
-            std::memset(chunk.data(), 'a' + i, size);
-            chunk.setSize(size);
-            sink.put(std::move(chunk));
-        }
-    };
-}
-
-std::string expectedLetters(int pieces, std::size_t size)
+// `pieces` runs of `size` bytes each, the n-th of the letter 'a' + n.
+std::string letters(int pieces, std::size_t size)
 {
     std::string bytes;
     for (int i = 0; i < pieces; ++i)
@@ -34,14 +23,21 @@ std::string expectedLetters(int pieces, std::size_t size)
     return bytes;
 }
 
-TEST(DiskFileOutput, ChunksLandInTheFileInOrderReplacingWhatWasThere)
+std::size_t entriesOf(const std::filesystem::path &folder)
+{
+    return static_cast<std::size_t>(std::distance(std::filesystem::directory_iterator(folder),
+                                                  std::filesystem::directory_iterator()));
+}
+
+TEST(DiskFileOutput, ALargeFileReplacesWhatWasThereWhole)
 {
     testing::TempFolder folder;
     const std::string path = (folder.path() / "sprite.dat").string();
     testing::writeBytes(path, std::string(10u << 20, 'z'));
     const std::size_t size = 700'000;
-    EXPECT_FALSE(diskFileOutput().writeChunked(path, letters(5, size)).has_value());
-    EXPECT_EQ(testing::readBytes(path), expectedLetters(5, size));
+    EXPECT_FALSE(diskFileOutput().writeFile(path, letters(5, size)).has_value());
+    EXPECT_EQ(testing::readBytes(path), letters(5, size));
+    EXPECT_EQ(entriesOf(folder.path()), 1u);
 }
 
 TEST(DiskFileOutput, AFullDeviceIsReportedAndLeavesThePreviousFileWhole)
@@ -50,11 +46,12 @@ TEST(DiskFileOutput, AFullDeviceIsReportedAndLeavesThePreviousFileWhole)
     const std::string path = (folder.path() / "sprite.dat").string();
     testing::writeBytes(path, "the previous sprite.dat");
     testsupport::FailingFileOps full;
-    full.failWriteAt = 1'500'000; // the device fills up in the second chunk
+    full.failWriteAt = 1'500'000; // the device fills up part-way
     SafeFileOutput output(full);
-    const auto chunked = output.writeChunked(path, letters(3, 1u << 20));
-    ASSERT_TRUE(chunked.has_value());
-    EXPECT_EQ(*chunked, "No space left on device");
+    const auto partWay = output.writeFile(path, letters(3, 1u << 20));
+    ASSERT_TRUE(partWay.has_value());
+    EXPECT_EQ(*partWay, "No space left on device");
+    EXPECT_EQ(full.bytesWritten, 1'500'000u);
     EXPECT_EQ(testing::readBytes(path), "the previous sprite.dat");
     testsupport::FailingFileOps fullAtOnce;
     fullAtOnce.failWriteAt = 0;
@@ -62,9 +59,7 @@ TEST(DiskFileOutput, AFullDeviceIsReportedAndLeavesThePreviousFileWhole)
     ASSERT_TRUE(whole.has_value());
     EXPECT_EQ(*whole, "No space left on device");
     EXPECT_EQ(testing::readBytes(path), "the previous sprite.dat");
-    EXPECT_EQ(std::distance(std::filesystem::directory_iterator(folder.path()),
-                            std::filesystem::directory_iterator()),
-              1);
+    EXPECT_EQ(entriesOf(folder.path()), 1u);
 }
 
 TEST(DiskFileOutput, ADeviceIsNeverWrittenAsAnEngineFile)
@@ -77,58 +72,42 @@ TEST(DiskFileOutput, ADeviceIsNeverWrittenAsAnEngineFile)
 TEST(DiskFileOutput, AFileThatCannotBeOpenedIsReportedInTheSystemsWords)
 {
     testing::TempFolder folder;
-    const auto failure =
-        diskFileOutput().writeChunked(folder.path().string(), letters(20, 1u << 20));
+    const auto failure = diskFileOutput().writeFile(folder.path().string(), letters(20, 1u << 20));
     ASSERT_TRUE(failure.has_value());
     EXPECT_EQ(*failure, "it is a folder, not a regular file");
-    const auto missing = diskFileOutput().writeChunked(
-        (folder.path() / "missing" / "text.dat").string(), letters(1, 10));
+    const auto missing =
+        diskFileOutput().writeFile((folder.path() / "missing" / "text.dat").string(), "0\r\n");
     ASSERT_TRUE(missing.has_value());
     EXPECT_EQ(*missing, "No such file or directory");
 }
 
-TEST(DiskFileOutput, NothingProducedMakesAnEmptyFile)
+TEST(DiskFileOutput, NoBytesMakeAnEmptyFile)
 {
     testing::TempFolder folder;
     const std::string path = (folder.path() / "font.dat").string();
     testing::writeBytes(path, "old");
-    EXPECT_FALSE(diskFileOutput().writeChunked(path, [](ChunkSink &) {}).has_value());
+    EXPECT_FALSE(diskFileOutput().writeFile(path, "").has_value());
     EXPECT_EQ(testing::readBytes(path), "");
-    EXPECT_FALSE(diskFileOutput().writeChunked(path, letters(0, 1)).has_value());
     EXPECT_TRUE(std::filesystem::exists(path));
 }
 
-TEST(DiskFileOutput, AProducerThatThrowsPassesTheExceptionOnAndWritesNothingMore)
+// A document that cannot be written (a list line whose slot lies outside its table) stops
+// generation before a file is touched, and no temporary file is left.
+TEST(DiskFileOutput, AGenerationThatFailsLeavesTheFilesAsTheyWere)
 {
     testing::TempFolder folder;
-    const std::string path = (folder.path() / "scene.dat").string();
-    testing::writeBytes(path, "the previous scene.dat");
-    // Failing before any chunk is put leaves the file as it was.
-    EXPECT_THROW(diskFileOutput().writeChunked(
-                     path, [](ChunkSink &) { throw std::out_of_range("no such slot"); }),
-                 std::out_of_range);
-    EXPECT_EQ(testing::readBytes(path), "the previous scene.dat");
-
-    // Failing later leaves the file as it was too: the chunks went to a temporary file.
-    const std::size_t size = 3u << 20;
-    EXPECT_THROW(diskFileOutput().writeChunked(path,
-                                               [&](ChunkSink &sink) {
-                                                   letters(3, size)(sink);
-                                                   throw std::out_of_range("no such slot");
-                                               }),
-                 std::out_of_range);
-    EXPECT_EQ(testing::readBytes(path), "the previous scene.dat");
-    EXPECT_EQ(std::distance(std::filesystem::directory_iterator(folder.path()),
-                            std::filesystem::directory_iterator()),
-              1);
-}
-
-// An output that only knows whole files gets the chunks joined.
-TEST(FileOutput, ChunksAreJoinedForAnOutputOfWholeFiles)
-{
-    testing::MemoryFiles files;
-    EXPECT_FALSE(files.writeChunked("out/text.dat", letters(4, 3000)).has_value());
-    EXPECT_EQ(files.files["out/text.dat"], expectedLetters(4, 3000));
+    const std::string out = folder.path().string() + "/";
+    testing::writeBytes(out + "scene.dat", "the previous scene.dat");
+    testing::writeBytes(out + "sprite.dat", "the previous sprite.dat");
+    auto doc = makeDocument();
+    doc->ProjectInfo.generatePath = out;
+    doc->AppSettings.windowIcon = doc->AppSettings.logPath = "null";
+    doc->list(Kind::Sprite).lines.push_back({"sprLost", 5000});
+    testing::RecordingProgress progress;
+    EXPECT_THROW(GenData(*doc, "null", progress, diskFileOutput()), std::out_of_range);
+    EXPECT_EQ(testing::readBytes(out + "sprite.dat"), "the previous sprite.dat");
+    EXPECT_EQ(testing::readBytes(out + "scene.dat"), "the previous scene.dat");
+    EXPECT_EQ(entriesOf(folder.path()), 2u);
 }
 
 } // namespace

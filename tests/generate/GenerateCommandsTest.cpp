@@ -218,5 +218,39 @@ TEST_F(GenerateCommandsTest, WriteFailureIsReportedWithTheFileAndReason)
     EXPECT_TRUE(state.generateAgainAvailable);
 }
 
+TEST_F(GenerateCommandsTest, GeneratedCountsTheFilesWrittenAndNamesTheFolder)
+{
+    ui.answers = {MessageAnswer::Yes, MessageAnswer::Yes};
+    ui.choices = {"C:\\game\\data\\x.dat"};
+    const auto result = generateDataAs(*doc, state, ui, progress, files);
+    ASSERT_EQ(result.outcome, GenerateOutcome::Generated);
+    EXPECT_EQ(result.filesWritten, 11);
+    EXPECT_EQ(generatedText(result.filesWritten, result.folder),
+              "Generated 11 files into C:\\game\\data\\");
+    const auto again = generateDataAgain(*doc, state, ui, progress, files);
+    ASSERT_EQ(again.outcome, GenerateOutcome::Generated);
+    EXPECT_EQ(again.filesWritten, 11);
+    EXPECT_EQ(again.folder, "C:\\game\\data\\");
+}
+
+TEST_F(GenerateCommandsTest, GeneratedTextNamesOneFileOrMany)
+{
+    EXPECT_EQ(generatedText(11, "/games/quest/data/"),
+              "Generated 11 files into /games/quest/data/");
+    EXPECT_EQ(generatedText(1, "/games/quest/data/"), "Generated 1 file into /games/quest/data/");
+}
+
+TEST_F(GenerateCommandsTest, FailedGenerationCountsOnlyTheFilesWrittenBeforeIt)
+{
+    files.failing = "text.dat";
+    ui.answers = {MessageAnswer::Yes};
+    ui.choices = {"C:\\game\\data\\x.dat"};
+    const auto result = generateDataAs(*doc, state, ui, progress, files);
+    EXPECT_EQ(result.outcome, GenerateOutcome::Failed);
+    // app.cfg, button.dat, image.dat, cursor.dat
+    EXPECT_EQ(result.filesWritten, 4);
+    EXPECT_EQ(files.order.size(), 4u);
+}
+
 } // namespace
 } // namespace vorlane

@@ -103,5 +103,33 @@ TEST(GeneratePaths, PathWithoutSeparatorHasAnEmptyFolder)
     EXPECT_EQ(p.dataFolderRel, "null");
 }
 
+TEST(GeneratePaths, ASiblingWhoseNameBeginsWithTheRootPassesTheTextRuleOnly)
+{
+    // The editor's rule takes it, with a data folder the engine will not find.
+    EXPECT_EQ(paths("/games/quest2/x.dat", "/games/quest").dataFolderRel, "/");
+    EXPECT_EQ(paths("/games/quest2/data/x.dat", "/games/quest").dataFolderRel, "/data/");
+    EXPECT_FALSE(rootEndsAtSeparator("/games/quest2/x.dat", "/games/quest"));
+    EXPECT_FALSE(rootEndsAtSeparator("C:\\games\\quest2\\x.dat", "C:\\games\\quest"));
+    EXPECT_TRUE(rootEndsAtSeparator("/games/quest/x.dat", "/games/quest"));
+    EXPECT_TRUE(rootEndsAtSeparator("/games/quest/data/x.dat", "/games/quest"));
+    EXPECT_TRUE(rootEndsAtSeparator("C:\\games\\quest\\data\\x.dat", "C:\\games\\quest"));
+    EXPECT_TRUE(rootEndsAtSeparator("/anything/x.dat", ""));
+    EXPECT_FALSE(rootEndsAtSeparator("/elsewhere/x.dat", "/games/quest"));
+}
+
+TEST(GeneratePaths, TrailingSeparatorsComeOffAFolder)
+{
+    EXPECT_EQ(withoutTrailingSeparators("mygame/"), "mygame");
+    EXPECT_EQ(withoutTrailingSeparators("C:\\Games\\Quest\\"), "C:\\Games\\Quest");
+    EXPECT_EQ(withoutTrailingSeparators("/games/quest//"), "/games/quest");
+    EXPECT_EQ(withoutTrailingSeparators("/games/quest"), "/games/quest");
+    EXPECT_EQ(withoutTrailingSeparators("/"), "/");
+    EXPECT_EQ(withoutTrailingSeparators(""), "");
+    EXPECT_TRUE(endsInSeparator("out\\"));
+    EXPECT_TRUE(endsInSeparator("out/"));
+    EXPECT_FALSE(endsInSeparator("out"));
+    EXPECT_FALSE(endsInSeparator(""));
+}
+
 } // namespace
 } // namespace vorlane

@@ -32,5 +32,32 @@ TEST(Cp1252, UnrepresentableCharactersBecomeQuestionMarks)
               "?z"); // not UTF-8 at all
 }
 
+TEST(Cp1252, TellsWhetherATextFits)
+{
+    EXPECT_TRUE(fitsCp1252(""));
+    EXPECT_TRUE(fitsCp1252("plain"));
+    EXPECT_TRUE(fitsCp1252("Café € \xC2\x81")); // U+0081 stands for the byte 0x81
+    EXPECT_TRUE(fitsCp1252("x\xFF"));           // malformed: "?" either way
+    EXPECT_FALSE(fitsCp1252("Проект"));
+    EXPECT_FALSE(fitsCp1252("日本"));
+    EXPECT_FALSE(fitsCp1252("a\xF0\x9F\x98\x80"));
+}
+
+TEST(Cp1252, ListsEachCharacterItCannotHoldOnceInOrder)
+{
+    EXPECT_EQ(charactersOutsideCp1252("ПрП р é😀П"), (std::vector<std::string>{"П", "р", "😀"}));
+    EXPECT_TRUE(charactersOutsideCp1252("Café\xFF").empty());
+}
+
+TEST(Cp1252, CleanUtf8KeepsCharactersAndMarksMalformedBytes)
+{
+    std::string out;
+    appendCleanUtf8(out, "Ж日😀");
+    EXPECT_EQ(out, "Ж日😀");
+    out.clear();
+    appendCleanUtf8(out, "a\xFF\xD0z\xC0\xAF\xED\xA0\x80");
+    EXPECT_EQ(out, "a??z?????"); // stray, truncated, overlong, surrogate
+}
+
 } // namespace
 } // namespace vorlane

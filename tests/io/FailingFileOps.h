@@ -23,9 +23,8 @@ public:
     int linkError = 0;
     std::vector<std::string> created;
     size_t bytesWritten = 0;
-    int writebacksStarted = 0;
 
-    int readAll(const std::string &path, ByteBuffer &bytes) override
+    int readAll(const std::string &path, std::string &bytes) override
     {
         return readError != 0 ? readError : SystemFileOps::readAll(path, bytes);
     }
@@ -48,11 +47,6 @@ public:
         const int error = SystemFileOps::write(handle, data, size, written);
         bytesWritten += written;
         return error;
-    }
-    void startWriteback(int handle) override
-    {
-        ++writebacksStarted;
-        SystemFileOps::startWriteback(handle);
     }
     int sync(int handle) override
     {

@@ -234,7 +234,7 @@ std::unique_ptr<Document> goldenDocument(bool splash)
 std::string savedBytes(Document &doc)
 {
     removeNewObjects(doc); // as Save does first
-    return projectFileBytes(doc).str();
+    return projectFileBytes(doc);
 }
 
 TEST(GoldenProject, WritesTheGoldenFile)
@@ -317,7 +317,7 @@ TEST(GoldenProject, SavingTheReopenedFileLosesOnlyTheHotSpotCursor)
     std::vector<std::string> expected = splitCrlf(golden("golden.dvb"));
     ASSERT_EQ(expected[15], "\"_hotDoor\",-20,35,\"curHand\",1,64,128");
     expected[15] = "\"_hotDoor\",-20,35,\"null\",1,64,128";
-    EXPECT_EQ(projectFileBytes(*doc).str(), crlf(expected));
+    EXPECT_EQ(projectFileBytes(*doc), crlf(expected));
 }
 
 TEST(GoldenProject, SplashOffGoldenReopensWithoutSplashValues)

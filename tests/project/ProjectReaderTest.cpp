@@ -214,6 +214,33 @@ TEST(ProjectReader, HotSpotComesBackWithoutItsCursorAndWithItsDefaults)
     EXPECT_EQ(hot.frameOver, 9);
 }
 
+TEST(ProjectReader, KeepingFileValuesKeepsAHotSpotsCursorAndTheSplashFlag)
+{
+    std::vector<std::string> lines = SmallProject;
+    lines[11] = "\"root\",\"caption\",\"icon\",800,600,32,2,60,2";
+    lines.erase(lines.begin() + 12);
+    const std::string file = crlf(lines);
+
+    auto dropped = makeDocument();
+    ASSERT_EQ(readProject(file, *dropped).status, ProjectReadResult::Status::Read);
+    EXPECT_EQ(dropped->Buttons[1].cursorId, "null");
+    EXPECT_EQ(dropped->AppSettings.splashEnabled, 0);
+
+    auto kept = makeDocument();
+    ProgressSink quiet;
+    ReadOptions options;
+    options.keepFileValues = true;
+    ASSERT_EQ(readProject(file, *kept, quiet, options).status, ProjectReadResult::Status::Read);
+    EXPECT_EQ(kept->Buttons[1].cursorId, "cur");
+    EXPECT_EQ(kept->AppSettings.splashEnabled, 2);
+    EXPECT_EQ(kept->AppSettings.splashImagePath, "null");
+    // Everything else as Open reads it.
+    kept->Buttons[1].cursorId = "null";
+    kept->AppSettings.splashEnabled = 0;
+    EXPECT_TRUE(*kept == *dropped);
+    EXPECT_EQ(projectFileBytes(*kept), projectFileBytes(*dropped));
+}
+
 TEST(ProjectReader, HotSpotCursorDoesNotSurviveSaveAndReload)
 {
     auto doc = makeDocument();
@@ -305,7 +332,7 @@ TEST(ProjectReader, ScenesHoldExactlyTheLayersOfTheirFile)
     for (size_t l = 1; l < scene.layers.size(); ++l)
         EXPECT_EQ(scene.layers[l].inUse, 0) << "layer " << l;
     // Saving it again writes the one layer its layerCount announces.
-    const std::string saved = projectFileBytes(*doc).str();
+    const std::string saved = projectFileBytes(*doc);
     EXPECT_NE(saved.find("\"scn\",1,0,1\r\n\"img\",3\r\n2,3\r\n"), std::string::npos);
 }
 
@@ -328,7 +355,7 @@ TEST(ProjectReader, LineFeedOnlyFileReadsLikeItsCrLfTwin)
     auto fromLf = makeDocument();
     ASSERT_EQ(readProject(crlf(SmallProject), *fromCrLf).status, ProjectReadResult::Status::Read);
     ASSERT_EQ(readProject(lf, *fromLf).status, ProjectReadResult::Status::Read);
-    EXPECT_EQ(projectFileBytes(*fromLf).str(), projectFileBytes(*fromCrLf).str());
+    EXPECT_EQ(projectFileBytes(*fromLf), projectFileBytes(*fromCrLf));
     EXPECT_EQ(fromLf->Texts[0].content, "Hi, there");
 
     // Line ends may also be mixed, and the last one may be missing.
@@ -337,7 +364,7 @@ TEST(ProjectReader, LineFeedOnlyFileReadsLikeItsCrLfTwin)
     mixed.resize(mixed.size() - 2);
     auto fromMixed = makeDocument();
     ASSERT_EQ(readProject(mixed, *fromMixed).status, ProjectReadResult::Status::Read);
-    EXPECT_EQ(projectFileBytes(*fromMixed).str(), projectFileBytes(*fromCrLf).str());
+    EXPECT_EQ(projectFileBytes(*fromMixed), projectFileBytes(*fromCrLf));
 }
 
 TEST(ProjectReader, EveryByteOtherThanTheQuoteSurvivesInsideAText)
@@ -361,7 +388,7 @@ TEST(ProjectReader, EveryByteOtherThanTheQuoteSurvivesInsideAText)
     EXPECT_EQ(doc->ProjectInfo.projectName.substr(doc->ProjectInfo.projectName.find('~'), 5),
               "~\x7F\xE2\x82\xAC"); // 0x80 is the euro sign
     EXPECT_EQ(doc->AppSettings.CustomFilters[1].text, toUtf8(bytes));
-    EXPECT_EQ(projectFileBytes(*doc).str(), file);
+    EXPECT_EQ(projectFileBytes(*doc), file);
 }
 
 TEST(ProjectReader, FieldsEndAtCommasAndLineEndsAlike)
@@ -373,7 +400,7 @@ TEST(ProjectReader, FieldsEndAtCommasAndLineEndsAlike)
     auto whole = makeDocument();
     ASSERT_EQ(readProject(crlf(lines), *split).status, ProjectReadResult::Status::Read);
     ASSERT_EQ(readProject(crlf(SmallProject), *whole).status, ProjectReadResult::Status::Read);
-    EXPECT_EQ(projectFileBytes(*split).str(), projectFileBytes(*whole).str());
+    EXPECT_EQ(projectFileBytes(*split), projectFileBytes(*whole));
 }
 
 TEST(ProjectReader, WhateverFollowsTheLastFieldIsIgnored)
@@ -395,7 +422,7 @@ TEST(ProjectReader, MismatchedAnimCountIsMisreadIntoTheNextLines)
     doc->Sprites[0].anims[0].id = "walk";
     listObject(*doc, Kind::Sprite, 1, "sprB");
     doc->Sprites[1].imageId = "img";
-    const std::string file = projectFileBytes(*doc).str();
+    const std::string file = projectFileBytes(*doc);
     ASSERT_EQ(splitCrlf(file)[16], "\"sprB\",\"img\",\"\",0,0,0,0");
 
     auto reopened = makeDocument();
@@ -428,7 +455,7 @@ std::string fileWithCellLines(const std::vector<std::string> &cells)
     anim.frameCount = static_cast<int16_t>(cells.size());
     for (size_t i = 0; i < cells.size(); ++i)
         anim.frames[i] = {-1, static_cast<int16_t>(1000 + i)};
-    std::string file = projectFileBytes(*doc).str();
+    std::string file = projectFileBytes(*doc);
     EXPECT_EQ(splitCrlf(file)[15], "1000");
     for (size_t i = 0; i < cells.size(); ++i) {
         const std::string placeholder = "\n" + std::to_string(1000 + i) + "\r\n";
@@ -518,7 +545,7 @@ TEST(ProjectReader, MismatchedLayerCountIsMisreadIntoTheLogLines)
     doc->Scenes[0].layerCount = 1;
     doc->Scenes[0].layers[0] = {-1, 1, "a"};
     doc->Scenes[0].layers[4] = {-1, 2, "b"};
-    const std::string file = projectFileBytes(*doc).str();
+    const std::string file = projectFileBytes(*doc);
     ASSERT_EQ(splitCrlf(file)[15], "\"b\",2");
 
     auto reopened = makeDocument();

@@ -22,7 +22,7 @@ std::string fileWith(std::initializer_list<int> counts, const std::vector<std::s
 TEST(ProjectWriter, EmptyProjectWritesZeroCountsAndNoRecords)
 {
     auto doc = makeDocument();
-    EXPECT_EQ(projectFileBytes(*doc).str(),
+    EXPECT_EQ(projectFileBytes(*doc),
               "\"\"\r\n"
               "\"\",\"\"\r\n"
               "0\r\n0\r\n0\r\n0\r\n0\r\n0\r\n0\r\n0\r\n0\r\n"
@@ -40,7 +40,7 @@ TEST(ProjectWriter, EmptyListWritesZeroAndNothingInItsSection)
     listObject(*doc, Kind::Font, 3, "fntA");
     doc->Fonts[3].path = "a.ttf";
     // Fonts are the fifth count; every other list is empty and leaves no trace.
-    EXPECT_EQ(projectFileBytes(*doc).str(),
+    EXPECT_EQ(projectFileBytes(*doc),
               fileWith({0, 0, 0, 0, 1, 0, 0, 0, 0}, {"\"fntA\",\"a.ttf\""}));
 }
 
@@ -66,7 +66,7 @@ TEST(ProjectWriter, CountsFollowListOrderAndSectionsFileOrder)
     doc->Images[1].alpha = 10;
     doc->Images[5].path = "five.bmp";
 
-    EXPECT_EQ(projectFileBytes(*doc).str(),
+    EXPECT_EQ(projectFileBytes(*doc),
               fileWith({0, 1, 2, 0, 0, 0, 0, 0, 0},
                        {"\"img5\",\"five.bmp\",0,0,0,0,0,0,0,0,0,0",
                         "\"img1\",\"one.bmp\",1,2,3,4,5,7,8,9,6,10",
@@ -106,7 +106,7 @@ TEST(ProjectWriter, UnderscoreIdWritesTheSevenFieldsEvenWithIsHotSpotZero)
 {
     auto doc = makeDocument();
     numberedButton(*doc, 0, "_door").isHotSpot = 0;
-    EXPECT_EQ(projectFileBytes(*doc).str(),
+    EXPECT_EQ(projectFileBytes(*doc),
               fileWith({1, 0, 0, 0, 0, 0, 0, 0, 0}, {"\"_door\",1,2,\"cur\",3,10,11"}));
 }
 
@@ -115,7 +115,7 @@ TEST(ProjectWriter, HotSpotWhoseIdLostItsUnderscoreWritesTheTwentyOneFields)
     auto doc = makeDocument();
     numberedButton(*doc, 4, "door").isHotSpot = 1;
     // Frames in the order disabled, up, over, down; then visible, iconVisible, captionVisible.
-    EXPECT_EQ(projectFileBytes(*doc).str(),
+    EXPECT_EQ(projectFileBytes(*doc),
               fileWith({1, 0, 0, 0, 0, 0, 0, 0, 0},
                        {"\"door\",1,2,\"cur\",3,7,4,6,5,\"tpl\",8,9,\"icon\",\"caption\",12,14,13,"
                         "\"up\",\"down\",\"over\",\"disabled\""}));
@@ -136,7 +136,7 @@ TEST(ProjectWriter, SplashLineOnlyWhenSplashEnabledIsOne)
     for (int16_t value : {0, 2, -1, 32767}) {
         app.splashEnabled = value;
         const std::string line1 = "\"\",\"\",\"\",0,0,0,0,0," + std::to_string(value);
-        EXPECT_EQ(projectFileBytes(*doc).str(),
+        EXPECT_EQ(projectFileBytes(*doc),
                   crlf(joinLines({HeadLines,
                                   countLines({0, 0, 0, 0, 0, 0, 0, 0, 0}),
                                   {line1, "0,0,0,0,\"\""},
@@ -145,7 +145,7 @@ TEST(ProjectWriter, SplashLineOnlyWhenSplashEnabledIsOne)
     }
     app.splashEnabled = 1;
     EXPECT_EQ(
-        projectFileBytes(*doc).str(),
+        projectFileBytes(*doc),
         crlf(joinLines(
             {HeadLines,
              countLines({0, 0, 0, 0, 0, 0, 0, 0, 0}),
@@ -185,7 +185,7 @@ TEST(ProjectWriter, AnimationWithoutUsedFramesWritesItsIdAndSettingsLines)
     SpriteRec &s = plainSprite(*doc, 0, "spr");
     s.animCount = 1;
     usedAnim(s, 0, "walk").frameCount = 2; // no frame slot is used
-    EXPECT_EQ(projectFileBytes(*doc).str(),
+    EXPECT_EQ(projectFileBytes(*doc),
               fileWith({0, 0, 0, 0, 0, 0, 0, 1, 0},
                        {"\"spr\",\"img\",\"walk\",5,-6,1,1", "\"walk\",2", "10,20,1,0,-1,-1"}));
 }
@@ -199,7 +199,7 @@ TEST(ProjectWriter, FrameCountZeroLeavesOutUsedFrameSlots)
     a.frameCount = 0;
     a.frames[0] = {-1, 4};
     a.frames[1] = {-1, 5};
-    EXPECT_EQ(projectFileBytes(*doc).str(),
+    EXPECT_EQ(projectFileBytes(*doc),
               fileWith({0, 0, 0, 0, 0, 0, 0, 1, 0},
                        {"\"spr\",\"img\",\"walk\",5,-6,1,1", "\"walk\",0", "10,20,1,0,-1,-1"}));
 }
@@ -220,7 +220,7 @@ TEST(ProjectWriter, UsedFramesAndAnimationsAreWrittenInSlotOrder)
     early.frames[3] = {0, 30}; // free
     s.anims[5].isNew = -1;     // reserved, never opened: not used
     s.anims[5].id = "reserved";
-    EXPECT_EQ(projectFileBytes(*doc).str(),
+    EXPECT_EQ(projectFileBytes(*doc),
               fileWith({0, 0, 0, 0, 0, 0, 0, 1, 0},
                        {"\"spr\",\"img\",\"walk\",5,-6,1,2",
                         "\"early\",3",
@@ -241,7 +241,7 @@ TEST(ProjectWriter, SpriteWithAnimCountZeroWritesOnlyItsLine)
     usedAnim(s, 0, "walk").frameCount = 1;
     s.anims[0].frames[0] = {-1, 3};
     usedAnim(s, 1, "run");
-    EXPECT_EQ(projectFileBytes(*doc).str(),
+    EXPECT_EQ(projectFileBytes(*doc),
               fileWith({0, 0, 0, 0, 0, 0, 0, 1, 0}, {"\"spr\",\"img\",\"walk\",5,-6,1,0"}));
 }
 
@@ -260,7 +260,7 @@ TEST(ProjectWriter, SceneLayersOnlyWhenLayerCountIsPositive)
     full.layers[6] = {-1, 2, "spr"};
     full.layers[1] = {-1, 5, "music"};
     full.layers[2] = {0, 1, "free"};
-    EXPECT_EQ(projectFileBytes(*doc).str(),
+    EXPECT_EQ(projectFileBytes(*doc),
               fileWith({0, 0, 0, 0, 0, 0, 0, 0, 2},
                        {"\"empty\",1,0,0", "\"full\",0,1,2", "\"music\",5", "\"spr\",2"}));
 }
@@ -281,12 +281,12 @@ TEST(ProjectWriter, CustomFiltersOnlyWhenTheCountIsPositiveThenEveryUsedSlot)
     };
 
     app.customFilterCount = 0;
-    EXPECT_EQ(projectFileBytes(*doc).str(), fileFor({"0"}));
+    EXPECT_EQ(projectFileBytes(*doc), fileFor({"0"}));
     app.customFilterCount = -2;
-    EXPECT_EQ(projectFileBytes(*doc).str(), fileFor({"-2"}));
+    EXPECT_EQ(projectFileBytes(*doc), fileFor({"-2"}));
     // The count says one, every used slot is written all the same.
     app.customFilterCount = 1;
-    EXPECT_EQ(projectFileBytes(*doc).str(), fileFor({"1", "\"zero\"", "\"nine\"", "\"fifty\""}));
+    EXPECT_EQ(projectFileBytes(*doc), fileFor({"1", "\"zero\"", "\"nine\"", "\"fifty\""}));
 }
 
 TEST(ProjectWriter, LogLinesHoldCountsThenTypeThenFileFilters)
@@ -297,7 +297,7 @@ TEST(ProjectWriter, LogLinesHoldCountsThenTypeThenFileFilters)
     app.logTypeFilterCount = 3;
     app.logTypeFilters = {1, 0, 1, 0, 0, 0, 1};
     app.logFileFilters = {0, 0, 0, 0, 0, 0, 0, 0, 0, 1, 1};
-    EXPECT_EQ(projectFileBytes(*doc).str(),
+    EXPECT_EQ(projectFileBytes(*doc),
               crlf(joinLines({HeadLines,
                               countLines({0, 0, 0, 0, 0, 0, 0, 0, 0}),
                               AppLines,
@@ -326,23 +326,30 @@ TEST(ProjectWriter, ApplicationLinesAndNumbersAtTheLimitsOfTheirFields)
     app.logEnabled = 1;
     app.useEngineScreen = -1;
     app.logPath = "log.txt";
-    EXPECT_EQ(projectFileBytes(*doc).str(),
+    EXPECT_EQ(projectFileBytes(*doc),
               crlf(joinLines({{"\"Name, with comma\"", "\"/home/me/p.dvb\",\"/home/me/out\""},
                               countLines({0, 0, 0, 0, 0, 0, 0, 0, 0}),
                               {"\"root\",\"caption\",\"icon\",-32768,32767,32,2,60,0",
                                "-2147483648,16,1,-1,\"log.txt\""},
                               emptyLogLines()})));
     app.soundMix = 2147483647;
-    EXPECT_NE(projectFileBytes(*doc).str().find("\r\n2147483647,16,1,-1,\"log.txt\"\r\n"),
+    EXPECT_NE(projectFileBytes(*doc).find("\r\n2147483647,16,1,-1,\"log.txt\"\r\n"),
               std::string::npos);
 }
 
-TEST(ProjectWriter, TextsAreWrittenInWindows1252WithUnrepresentableCharactersAsQuestionMarks)
+TEST(ProjectWriter, TextsAreWrittenInWindows1252WhileEveryCharacterFitsIt)
+{
+    auto doc = makeDocument();
+    doc->ProjectInfo.projectName = "Caf\xC3\xA9 \xE2\x82\xAC"; // "Café €"
+    EXPECT_EQ(projectFileBytes(*doc).substr(0, 10), "\"Caf\xE9 \x80\"\r\n");
+}
+
+TEST(ProjectWriter, ACharacterOutsideWindows1252MakesTheFileUtf8NotAQuestionMark)
 {
     auto doc = makeDocument();
     doc->ProjectInfo.projectName = "Caf\xC3\xA9 \xE2\x82\xAC \xE6\x97\xA5"; // "Café € 日"
-    const std::string bytes = projectFileBytes(*doc).str();
-    EXPECT_EQ(bytes.substr(0, 12), "\"Caf\xE9 \x80 ?\"\r\n");
+    const std::string bytes = projectFileBytes(*doc);
+    EXPECT_EQ(bytes.substr(0, 20), "\xEF\xBB\xBF\"Caf\xC3\xA9 \xE2\x82\xAC \xE6\x97\xA5\"\r\n");
 }
 
 TEST(ProjectWriter, TextRecordsBeginWithTheirContent)
@@ -362,7 +369,7 @@ TEST(ProjectWriter, TextRecordsBeginWithTheirContent)
         *field = value++;
     // x1 y2 clipWidth3 clipHeight4 centered5 visible6 delay7 textType8 repeat9 foreRGB10-12
     // backRGB13-15 pointSize16 normal17 bold18 italic19 underline20
-    EXPECT_EQ(projectFileBytes(*doc).str(),
+    EXPECT_EQ(projectFileBytes(*doc),
               fileWith({0, 0, 0, 1, 0, 0, 0, 0, 0},
                        {"\"Hello\",\"txt\",\"fnt\",1,2,5,6,9,7,3,4,8,\"sel\",16,17,19,18,20,10,11,"
                         "12,13,14,15"}));
@@ -381,7 +388,7 @@ TEST(ProjectWriter, MusicAndSoundEffectsShareTheirLayout)
     doc->SoundEffects[200].defaultVolume = -4;
     doc->SoundEffects[200].defaultPriority = 5;
     doc->SoundEffects[200].defaultPan = -6;
-    EXPECT_EQ(projectFileBytes(*doc).str(),
+    EXPECT_EQ(projectFileBytes(*doc),
               fileWith({0, 0, 0, 0, 0, 1, 1, 0, 0},
                        {"\"mus\",\"m.ogg\",1,2,3", "\"sfx\",\"s.wav\",-4,5,-6"}));
 }

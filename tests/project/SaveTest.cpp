@@ -7,6 +7,8 @@
 
 #include <gtest/gtest.h>
 
+#include <stdexcept>
+
 namespace vorlane {
 namespace {
 
@@ -63,7 +65,7 @@ TEST_F(SaveTest, AnsweringYesRemovesNewObjectsAndWritesTheFile)
     ASSERT_EQ(doc->list(Kind::Image).lines.size(), 1u);
     EXPECT_EQ(doc->list(Kind::Image).lines[0].text, "img");
     EXPECT_EQ(doc->Images[0].isNew, -1); // only the list line goes
-    EXPECT_EQ(readBytes(folder.file("saved.dvb")), projectFileBytes(*doc).str());
+    EXPECT_EQ(readBytes(folder.file("saved.dvb")), projectFileBytes(*doc));
     EXPECT_EQ(splitCrlf(readBytes(folder.file("saved.dvb")))[4], "1"); // one image
     EXPECT_EQ(progress.events,
               (std::vector<std::string>{"begin Saving Data...",
@@ -131,6 +133,18 @@ TEST_F(SaveTest, CancelledAndWrittenOutcomes)
     EXPECT_EQ(saveProject(*doc, ui, progress, ops).status, SaveResult::Status::Cancelled);
     EXPECT_TRUE(ops.created.empty());
     EXPECT_TRUE(saveProject(*doc, ui, progress, ops).written());
+}
+
+// A list line whose slot lies outside its table stops the writer before any file is made.
+TEST_F(SaveTest, AWriterThatFailsLeavesTheOldFileAndMakesNoFile)
+{
+    writeBytes(folder.file("saved.dvb"), "old");
+    doc->list(Kind::Scene).lines.push_back({"scnLost", 5000});
+    FailingFileOps ops;
+    EXPECT_THROW(saveProject(*doc, ui, progress, ops), std::out_of_range);
+    EXPECT_TRUE(ops.created.empty());
+    EXPECT_EQ(readBytes(folder.file("saved.dvb")), "old");
+    EXPECT_EQ(folder.entries(), std::vector<std::string>{"saved.dvb"});
 }
 
 TEST_F(SaveTest, SaveOpenSaveThroughFilesIsByteIdentical)

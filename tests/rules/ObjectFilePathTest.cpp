@@ -63,7 +63,7 @@ TEST(ObjectFilePath, RelativeRootFolderLiesBesideTheProjectFile)
 
 TEST(ObjectFilePath, ProjectFileWithoutFolderCountsFromTheWorkingFolder)
 {
-    // The example project records its own path as "demo.dvb" and its root as "build/demo".
+    // A project file named without a folder lies in the working folder.
     EXPECT_EQ(resolveObjectPath("../../examples/art/hero-walk.png", "build/demo", "demo.dvb"),
               "examples/art/hero-walk.png");
 }
@@ -86,6 +86,45 @@ TEST(ObjectFilePath, DocumentGivesRootAndProjectFile)
     EXPECT_EQ(resolveObjectPath(*doc, "hero.png"), "/projects/hero.png");
     doc->AppSettings.rootFolder = "/games/quest";
     EXPECT_EQ(resolveObjectPath(*doc, "hero.png"), "/games/quest/hero.png");
+}
+
+TEST(ObjectFilePath, RelativePathsCountFromTheFileThatWasOpened)
+{
+    // The file records its own path without a folder; it was opened from /work/examples.
+    std::unique_ptr<Document> doc = makeDocument();
+    doc->ProjectInfo.projectFilePath = "demo.dvb";
+    doc->openedFrom = "/work/examples/demo.dvb";
+    EXPECT_EQ(resolveObjectPath(*doc, "art/hero.png"), "/work/examples/art/hero.png");
+    doc->AppSettings.rootFolder = "demo";
+    EXPECT_EQ(resolveObjectPath(*doc, "art/hero.png"), "/work/examples/demo/art/hero.png");
+    EXPECT_EQ(pathsProjectFile(*doc), "/work/examples/demo.dvb");
+}
+
+TEST(ObjectFilePath, PathRecordedOnAnotherMachineDoesNotMoveTheFolder)
+{
+    std::unique_ptr<Document> doc = makeDocument();
+    doc->ProjectInfo.projectFilePath = "C:\\games\\quest\\quest.dvb";
+    doc->openedFrom = "/home/ann/quest/quest.dvb";
+    doc->AppSettings.rootFolder = "game";
+    EXPECT_EQ(resolveObjectPath(*doc, "art\\hero.png"), "/home/ann/quest/game/art/hero.png");
+}
+
+TEST(ObjectFilePath, ProjectOpenedByARelativePathCountsFromItsFolder)
+{
+    std::unique_ptr<Document> doc = makeDocument();
+    doc->ProjectInfo.projectFilePath = "demo.dvb";
+    doc->openedFrom = "../examples/demo.dvb";
+    doc->AppSettings.rootFolder = "demo";
+    EXPECT_EQ(resolveObjectPath(*doc, "art/hero.png"), "../examples/demo/art/hero.png");
+}
+
+TEST(ObjectFilePath, SavedNewProjectCountsFromTheFileSavedTo)
+{
+    // Save As forgets the file opened before and records the chosen one.
+    std::unique_ptr<Document> doc = makeDocument();
+    doc->ProjectInfo.projectFilePath = "/games/quest/quest.dvb";
+    EXPECT_EQ(pathsProjectFile(*doc), "/games/quest/quest.dvb");
+    EXPECT_EQ(resolveObjectPath(*doc, "art/hero.png"), "/games/quest/art/hero.png");
 }
 
 } // namespace

@@ -1,10 +1,13 @@
 #include "BoundForm.h"
 
+#include "TextLength.h"
+
 #include <QApplication>
 #include <QCheckBox>
 #include <QComboBox>
 #include <QKeyEvent>
 #include <QLineEdit>
+#include <QPushButton>
 
 #include <utility>
 
@@ -59,6 +62,8 @@ void BoundForm::Form_Load()
 
 void BoundForm::fillControls()
 {
+    // Before any box is filled, so that none cuts its field's text.
+    allowAnyLength(this);
     for (const auto &binding : m_bindings)
         binding->fill();
 }
@@ -86,6 +91,21 @@ void BoundForm::done(int result)
     QDialog::done(result);
 }
 
+void BoundForm::showEvent(QShowEvent *event)
+{
+    // No button is the window's default, so none is drawn as the one Return would click.
+    for (QPushButton *button : findChildren<QPushButton *>()) {
+        button->setAutoDefault(false);
+        button->setDefault(false);
+    }
+    QDialog::showEvent(event);
+}
+
+bool BoundForm::isReturnKey(const QKeyEvent &key)
+{
+    return key.key() == Qt::Key_Return || key.key() == Qt::Key_Enter;
+}
+
 void BoundForm::keyPressEvent(QKeyEvent *event)
 {
     // Escape acts when it is released, like every other close; pressing it does nothing.
@@ -101,6 +121,12 @@ bool BoundForm::eventFilter(QObject *watched, QEvent *event)
     if (event->type() == QEvent::KeyPress || event->type() == QEvent::ShortcutOverride) {
         auto *key = static_cast<QKeyEvent *>(event);
         auto *widget = qobject_cast<QWidget *>(watched);
+        // Escape is the one key these windows handle: Return and Enter reach no control of
+        // the window, so they click no button and accept no completion in a drop-down.
+        // A drop-down's open list is a window of its own and still takes them.
+        if (event->type() == QEvent::KeyPress && isReturnKey(*key) && widget &&
+            widget->window() == this)
+            return true;
         // An Escape pressed while a drop-down's list is open closes only the list; its
         // release, which reaches the drop-down once the list is gone, must not close the window.
         const bool inList = QApplication::activePopupWidget() ||

@@ -97,7 +97,9 @@ private:
                               std::function<void(int32_t)> store,
                               NumberField rule);
 
+    void showEvent(QShowEvent *event) override;
     void keyPressEvent(QKeyEvent *event) override;
+    static bool isReturnKey(const QKeyEvent &key);
     bool eventFilter(QObject *watched, QEvent *event) override;
 
     Document &m_doc;

@@ -15,6 +15,9 @@ ListBinding::ListBinding(QComboBox *box, Offer offer, Shown shown, Change change
 {
     // The list holds objects only; a typed text never becomes an entry.
     box->setInsertPolicy(QComboBox::NoInsert);
+    // A typed text is stored as it is typed: no entry completes it.
+    if (box->isEditable())
+        box->setCompleter(nullptr);
     m_activated = QObject::connect(box, &QComboBox::activated, box, [this](int index) {
         m_click(m_box->itemText(index).toStdString());
     });

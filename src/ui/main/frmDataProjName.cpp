@@ -1,11 +1,14 @@
 #include "frmDataProjName.h"
 
+#include "TextLength.h"
+
 namespace vorlane {
 
 frmDataProjName::frmDataProjName(QWidget *parent)
     : QDialog(parent)
 {
     m_ui.setupUi(this);
+    allowAnyLength(this);
     connect(m_ui.txtDataProjName,
             &QLineEdit::textChanged,
             this,

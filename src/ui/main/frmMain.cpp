@@ -11,9 +11,11 @@
 #include "frmRename.h"
 #include "project/CheckSummary.h"
 #include "rules/ObjectRename.h"
+#include "RecoveryKeeper.h"
 #include "io/SystemFileOps.h"
 #include "project/ProjectCheck.h"
 #include "generate/GenerateCommands.h"
+#include "history/StepNames.h"
 #include "model/Kinds.h"
 #include "rules/ObjectManagement.h"
 #include "rules/QuickStats.h"
@@ -21,6 +23,7 @@
 #include "platform/Registry.h"
 #include "rules/UserInterface.h"
 #include "project/Open.h"
+#include "project/RecoveryStore.h"
 #include "project/Save.h"
 #include "frmAppLogProps.h"
 #include "frmAppSoundProps.h"
@@ -29,12 +32,15 @@
 #include "frmLogCustom.h"
 #include "frmLogFile.h"
 #include "frmLogType.h"
+#include "TextLength.h"
 
 #include <QCloseEvent>
 #include <QCoreApplication>
 #include <QDesktopServices>
 #include <QDir>
 #include <QFileInfo>
+#include <QKeySequence>
+#include <QLabel>
 #include <QListWidget>
 #include <QProcess>
 #include <QStatusBar>
@@ -51,23 +57,45 @@ QString qs(const std::string &text)
     return QString::fromStdString(text);
 }
 
-// Loads a settings or filter dialog and shows it modally; returns when it closes.
-template<class Dialog, class... Args>
-void showModal(Args &&...args)
+// A step's name in a menu caption: an "&" of an id shows as itself.
+QString menuText(const std::string &text)
 {
-    Dialog dialog(std::forward<Args>(args)...);
-    dialog.run();
+    return qs(text).replace(QLatin1Char('&'), QStringLiteral("&&"));
 }
 
 } // namespace
+
+// Loads a settings or filter dialog and shows it modally, as one step named by its title.
+template<class Dialog, class... Args>
+void frmMain::runDialog(Args &&...args)
+{
+    endTypingRun();
+    const std::size_t recorded = m_history->recordedSteps();
+    m_history->beginStep({});
+    std::string title;
+    {
+        Dialog dialog(std::forward<Args>(args)...);
+        title = dialog.windowTitle().toStdString();
+        dialog.run();
+    }
+    endSession(title, recorded);
+}
 
 frmMain::frmMain(Document &doc, UserInterface &userInterface, QWidget *parent)
     : QMainWindow(parent)
     , m_doc(doc)
     , m_userInterface(userInterface)
     , m_openUrl([](const QUrl &url) { return QDesktopServices::openUrl(url); })
+    , m_history(std::make_unique<History>(doc))
 {
     m_ui.setupUi(this);
+    allowAnyLength(this);
+    m_ui.mnuRedo->setShortcuts(
+        {QKeySequence(QStringLiteral("Ctrl+Shift+Z")), QKeySequence(QStringLiteral("Ctrl+Y"))});
+    // A permanent field, so that the messages of Save and Check Project show beside it.
+    m_unsavedMark = new QLabel(this);
+    m_unsavedMark->setObjectName(QStringLiteral("lblUnsaved"));
+    statusBar()->addPermanentWidget(m_unsavedMark);
     for (int tab = 0; tab <= TabCount; ++tab)
         m_tabs[static_cast<size_t>(tab)] =
             findChild<QFrame *>(QStringLiteral("fraTab_%1").arg(tab));
@@ -127,6 +155,10 @@ void frmMain::connectHandlers()
             [this, tab]() { lstObjects_DblClick(tab); });
     connect(
         m_ui.txtAppRootFolder, &QLineEdit::textChanged, this, &frmMain::txtAppRootFolder_Change);
+    connect(m_ui.txtAppRootFolder,
+            &QLineEdit::editingFinished,
+            this,
+            &frmMain::txtAppRootFolder_EditingFinished);
     connect(m_ui.cmdObjAdd, &QPushButton::clicked, this, &frmMain::cmdObjAdd_Click);
     connect(m_ui.cmdObjEdit, &QPushButton::clicked, this, &frmMain::cmdObjEdit_Click);
     connect(m_ui.cmdObjRemove, &QPushButton::clicked, this, &frmMain::cmdObjRemove_Click);
@@ -142,6 +174,8 @@ void frmMain::connectHandlers()
     connect(m_ui.mnuAbout, &QAction::triggered, this, &frmMain::mnuAbout_Click);
     connect(m_ui.mnuRename, &QAction::triggered, this, &frmMain::mnuRename_Click);
     connect(m_ui.mnuFind, &QAction::triggered, this, &frmMain::mnuFind_Click);
+    connect(m_ui.mnuUndo, &QAction::triggered, this, &frmMain::mnuUndo_Click);
+    connect(m_ui.mnuRedo, &QAction::triggered, this, &frmMain::mnuRedo_Click);
     connect(m_ui.cmdAppWindowProps, &QPushButton::clicked, this, &frmMain::cmdAppWindowProps_Click);
     connect(m_ui.cmdAppSoundProps, &QPushButton::clicked, this, &frmMain::cmdAppSoundProps_Click);
     connect(m_ui.cmdAppSplashProps, &QPushButton::clicked, this, &frmMain::cmdAppSplashProps_Click);
@@ -225,7 +259,20 @@ void frmMain::lstObjects_DblClick(int index)
 
 void frmMain::txtAppRootFolder_Change()
 {
+    // Typing opens a run, one step until the box is left; a text set inside another step
+    // (Open's) belongs to that step.
+    if (!m_history->inStep() && m_doc.ProjectInfo.projectOpen == -1) {
+        m_history->beginStep(RootFolderStepName);
+        m_typingRun = true;
+    }
     m_doc.AppSettings.rootFolder = m_ui.txtAppRootFolder->text().toStdString();
+    if (m_typingRun)
+        showEditMenu();
+}
+
+void frmMain::txtAppRootFolder_EditingFinished()
+{
+    endTypingRun();
 }
 
 void frmMain::setEditor(Kind kind, EditorOpener opener)
@@ -253,14 +300,16 @@ void frmMain::cmdObjAdd_Click()
     if (!isObjectTab(m_currentTab))
         return;
     const Kind kind = kindOfTab(m_currentTab);
-    const AddResult result = addObject(m_doc, kind);
-    if (result.refusal) {
-        m_userInterface.showMessage(*result.refusal);
-        return;
-    }
-    showList(kind);
-    m_ui.cmdObjRemove->setEnabled(true);
-    m_ui.cmdObjEdit->setEnabled(true);
+    runStep(addStepName(kind), [this, kind]() {
+        const AddResult result = addObject(m_doc, kind);
+        if (result.refusal) {
+            m_userInterface.showMessage(*result.refusal);
+            return;
+        }
+        showList(kind);
+        m_ui.cmdObjRemove->setEnabled(true);
+        m_ui.cmdObjEdit->setEnabled(true);
+    });
     refreshChecks();
 }
 
@@ -269,10 +318,22 @@ void frmMain::cmdObjEdit_Click()
     if (!isObjectTab(m_currentTab))
         return;
     const Kind kind = kindOfTab(m_currentTab);
+    // Choosing the current object is no change of the project: the step is the session.
     if (!editObject(m_doc, kind))
         return;
-    if (const auto &open = m_editors[static_cast<size_t>(kindIndex(kind))])
-        open(*this);
+    const auto &open = m_editors[static_cast<size_t>(kindIndex(kind))];
+    if (!open)
+        return;
+    endTypingRun();
+    const int slot = m_doc.currentObjectIndex;
+    const std::size_t recorded = m_history->recordedSteps();
+    // A step cut inside the session (a drag) takes the name of the line that was opened.
+    const ObjectList &list = m_doc.list(kind);
+    m_history->beginStep(editStepName(kind, list.lines[static_cast<size_t>(list.selected)].text));
+    open(*this);
+    // The step takes the id the object has when its editor closes.
+    endSession(editStepName(kind, slotInTable(kind, slot) ? slotOf(m_doc, kind, slot).id : ""),
+               recorded);
     refreshChecks();
 }
 
@@ -281,15 +342,20 @@ void frmMain::cmdObjRemove_Click()
     if (!isObjectTab(m_currentTab))
         return;
     const Kind kind = kindOfTab(m_currentTab);
-    const RemoveResult result = removeObject(m_doc, kind);
-    if (!result.removed)
-        return;
-    showList(kind);
-    if (result.listEmpty) {
-        m_ui.cmdObjRemove->setEnabled(false);
-        m_ui.cmdObjEdit->setEnabled(true);
-        coverFrame(m_currentTab)->setVisible(true);
-    }
+    const ObjectList &list = m_doc.list(kind);
+    const bool selected = list.selected >= 0 && list.selected < static_cast<int>(list.lines.size());
+    const std::string id = selected ? list.lines[static_cast<size_t>(list.selected)].text : "";
+    runStep(removeStepName(kind, id), [this, kind]() {
+        const RemoveResult result = removeObject(m_doc, kind);
+        if (!result.removed)
+            return;
+        showList(kind);
+        if (result.listEmpty) {
+            m_ui.cmdObjRemove->setEnabled(false);
+            m_ui.cmdObjEdit->setEnabled(true);
+            coverFrame(m_currentTab)->setVisible(true);
+        }
+    });
     refreshChecks();
 }
 
@@ -333,11 +399,14 @@ void frmMain::mnuNew_Click()
     frmDataProjName dialog(this);
     if (dialog.exec() != QDialog::Accepted)
         return;
-    setUpNewProject(m_doc, dialog.name().toStdString());
-    projectOpened();
-    for (Kind kind : ListOrder)
-        showList(kind);
-    selectFirstTab();
+    runProjectStep(NewStepName, [this, &dialog]() {
+        setUpNewProject(m_doc, dialog.name().toStdString());
+        projectOpened();
+        for (Kind kind : ListOrder)
+            showList(kind);
+        selectFirstTab();
+    });
+    showUnsavedMark();
     refreshChecks();
 }
 
@@ -359,17 +428,59 @@ void frmMain::mnuOpen_Click()
     const auto path = m_userInterface.chooseFile(request);
     if (!path)
         return;
-    const OpenOutcome outcome = Open(m_doc, *path, m_userInterface, progress());
+    // The whole Open is one step, a file read half-way included: undoing it brings back the
+    // project that was open before.
+    runProjectStep(openStepName(*path), [this, &path]() {
+        if (openChosen(*path).opened())
+            m_history->markSaved();
+    });
+    showUnsavedMark();
+}
+
+OpenOutcome frmMain::openChosen(const std::string &path)
+{
+    const OpenOutcome outcome = Open(m_doc, path, m_userInterface, progress());
     m_ui.txtAppRootFolder->setText(qs(m_doc.AppSettings.rootFolder));
     listsChanged();
     if (!outcome.opened())
-        return;
+        return outcome;
     // A project that was already open keeps its caption: only the first Open of a run sets it.
     if (outcome.firstProject)
         projectOpened();
     selectFirstTab();
     UpdateAppStats();
     refreshChecks();
+    return outcome;
+}
+
+bool frmMain::hasUnsavedChanges() const
+{
+    return m_doc.ProjectInfo.projectOpen == -1 && m_history->unsaved();
+}
+
+void frmMain::startRecovery()
+{
+    startRecovery(RecoveryStore(RecoveryStore::defaultFolder()));
+}
+
+void frmMain::startRecovery(RecoveryStore store)
+{
+    // Each file is kept until its question is answered; Yes opens it like Open (a step that
+    // can be undone), except that the project keeps the path recorded inside it, and its
+    // changes stay unsaved.
+    for (const RecoveryFile &file : store.abandoned()) {
+        if (m_userInterface.showMessage(recoveryQuestion(file)) == MessageAnswer::Yes) {
+            runProjectStep(openStepName(file.path), [this, &file]() {
+                if (openChosen(file.path).opened())
+                    m_doc.openedFrom.clear();
+            });
+            showUnsavedMark();
+        }
+        RecoveryStore::remove(file);
+    }
+    m_recovery = new RecoveryKeeper(
+        m_doc, std::move(store), [this] { return hasUnsavedChanges(); }, this);
+    m_recovery->start();
 }
 
 void frmMain::mnuSave_Click()
@@ -386,8 +497,10 @@ bool frmMain::saveProject()
 {
     if (m_doc.ProjectInfo.projectFilePath.empty())
         return saveProjectAs();
-    const SaveResult result =
-        vorlane::saveProject(m_doc, m_userInterface, progress(), systemFileOps());
+    SaveResult result;
+    recordRemovedNewObjects([this, &result]() {
+        result = vorlane::saveProject(m_doc, m_userInterface, progress(), systemFileOps());
+    });
     listsChanged();
     if (result.written())
         showSaveProblems(result.notices);
@@ -407,8 +520,10 @@ bool frmMain::saveProjectAs()
         return false;
     // A name typed without an extension gets ".dvb", so that Open's filter shows the file.
     recordChosenPath(m_doc, withProjectExtension(*path));
-    const SaveResult result =
-        vorlane::saveProject(m_doc, m_userInterface, progress(), systemFileOps());
+    SaveResult result;
+    recordRemovedNewObjects([this, &result]() {
+        result = vorlane::saveProject(m_doc, m_userInterface, progress(), systemFileOps());
+    });
     listsChanged();
     m_ui.mnuSave->setEnabled(true);
     if (result.written())
@@ -418,6 +533,8 @@ bool frmMain::saveProjectAs()
 
 void frmMain::showSaveProblems(const std::vector<std::string> &notices)
 {
+    m_history->markSaved();
+    showUnsavedMark();
     const std::string path = projectSavePath(m_doc);
     std::vector<ProjectProblem> lines;
     for (const std::string &notice : notices)
@@ -550,8 +667,11 @@ void frmMain::mnuFind_Click()
 
 void frmMain::mnuGenDataAs_Click()
 {
-    generateDataAs(m_doc, m_generateState, m_userInterface, progress());
+    recordRemovedNewObjects([this]() {
+        showGenerated(generateDataAs(m_doc, m_generateState, m_userInterface, progress()));
+    });
     listsChanged();
+    showUnsavedMark();
     // Once a folder has been chosen, Generate Data may run again into it.
     if (m_generateState.generateAgainAvailable)
         m_ui.mnuGenData->setEnabled(true);
@@ -561,8 +681,17 @@ void frmMain::mnuGenData_Click()
 {
     if (!m_generateState.generateAgainAvailable)
         return;
-    generateDataAgain(m_doc, m_generateState, m_userInterface, progress());
+    recordRemovedNewObjects([this]() {
+        showGenerated(generateDataAgain(m_doc, m_generateState, m_userInterface, progress()));
+    });
     listsChanged();
+    showUnsavedMark();
+}
+
+void frmMain::showGenerated(const GenerateResult &result)
+{
+    if (result.outcome == GenerateOutcome::Generated)
+        statusBar()->showMessage(qs(generatedText(result.filesWritten, result.folder)));
 }
 
 void frmMain::mnuExit_Click()
@@ -572,6 +701,7 @@ void frmMain::mnuExit_Click()
 
 void frmMain::closeEvent(QCloseEvent *event)
 {
+    endTypingRun();
     // Form_Unload: a project that was never saved or opened closes without a question.
     if (!m_doc.ProjectInfo.projectFilePath.empty()) {
         const auto answer =
@@ -586,6 +716,8 @@ void frmMain::closeEvent(QCloseEvent *event)
         }
     }
     event->accept();
+    if (m_recovery)
+        m_recovery->closing();
 }
 
 QString frmMain::manualPath()
@@ -622,43 +754,177 @@ void frmMain::mnuAbout_Click()
 
 void frmMain::cmdAppWindowProps_Click()
 {
-    showModal<frmAppWindowProps>(m_doc, this);
+    runDialog<frmAppWindowProps>(m_doc, this);
     refreshChecks();
 }
 
 void frmMain::cmdAppSoundProps_Click()
 {
-    showModal<frmAppSoundProps>(m_doc, this);
+    runDialog<frmAppSoundProps>(m_doc, this);
     refreshChecks();
 }
 
 void frmMain::cmdAppSplashProps_Click()
 {
-    showModal<frmAppSplashProps>(m_doc, this);
+    runDialog<frmAppSplashProps>(m_doc, this);
     refreshChecks();
 }
 
 void frmMain::cmdAppLogProps_Click()
 {
-    showModal<frmAppLogProps>(m_doc, this);
+    runDialog<frmAppLogProps>(m_doc, this);
     refreshChecks();
 }
 
 void frmMain::cmdLogEditType_Click()
 {
-    showModal<frmLogType>(m_doc, this);
+    runDialog<frmLogType>(m_doc, this);
     refreshChecks();
 }
 
 void frmMain::cmdLogEditFile_Click()
 {
-    showModal<frmLogFile>(m_doc, this);
+    runDialog<frmLogFile>(m_doc, this);
     refreshChecks();
 }
 
 void frmMain::cmdLogEditCustom_Click()
 {
-    showModal<frmLogCustom>(m_doc, m_userInterface, this);
+    runDialog<frmLogCustom>(m_doc, m_userInterface, this);
+}
+
+bool frmMain::runStep(const std::string &name, const std::function<void()> &change)
+{
+    endTypingRun();
+    m_history->beginStep(name);
+    change();
+    const bool recorded = m_history->endStep();
+    if (recorded)
+        documentChanged();
+    return recorded;
+}
+
+void frmMain::runProjectStep(const std::string &name, const std::function<void()> &change)
+{
+    endTypingRun();
+    // Before the first project of the run there is nothing to go back to.
+    if (m_doc.ProjectInfo.projectOpen == 0) {
+        change();
+        showEditMenu();
+        return;
+    }
+    runStep(name, change);
+}
+
+void frmMain::recordRemovedNewObjects(const std::function<void()> &write)
+{
+    endTypingRun();
+    const auto before = m_doc.lists;
+    write();
+    if (m_doc.lists == before)
+        return;
+    // Only the lines taken off are the step: the path Save As records, or the folder
+    // Generate records, stays as it is when the step is undone.
+    auto after = m_doc.lists;
+    m_doc.lists = before;
+    runStep(RemoveNewObjectsStepName, [this, &after]() { m_doc.lists = std::move(after); });
+}
+
+void frmMain::endSession(const std::string &name, std::size_t recordedBefore)
+{
+    m_history->cutStep(name);
+    m_history->endStep();
+    // A session may have cut steps of its own (a drag in the scene editor).
+    if (m_history->recordedSteps() != recordedBefore)
+        documentChanged();
+    else
+        showEditMenu();
+}
+
+void frmMain::endTypingRun()
+{
+    if (!m_typingRun)
+        return;
+    m_typingRun = false;
+    if (m_history->endStep())
+        documentChanged();
+    else
+        showEditMenu();
+}
+
+void frmMain::mnuUndo_Click()
+{
+    endTypingRun();
+    if (!m_history->canUndo())
+        return;
+    m_history->undo();
+    showRestoredDocument();
+    documentChanged();
+}
+
+void frmMain::mnuRedo_Click()
+{
+    endTypingRun();
+    if (!m_history->canRedo())
+        return;
+    m_history->redo();
+    showRestoredDocument();
+    documentChanged();
+}
+
+void frmMain::documentChanged()
+{
+    if (m_ui.txtAppRootFolder->text() != qs(m_doc.AppSettings.rootFolder)) {
+        // The box shows the document: setting it is no typing.
+        const QSignalBlocker blocker(m_ui.txtAppRootFolder);
+        m_ui.txtAppRootFolder->setText(qs(m_doc.AppSettings.rootFolder));
+    }
+    showEditMenu();
+    showUnsavedMark();
+}
+
+void frmMain::showRestoredDocument()
+{
+    // After a step its handler has shown the result as it always has (an editor's hand-back
+    // leaves the quick statistics as they were); after undo and redo everything is shown anew.
+    listsChanged();
+    showCurrentStats();
+}
+
+void frmMain::showCurrentStats()
+{
+    if (m_currentTab == 1) {
+        UpdateAppStats();
+        return;
+    }
+    if (!isObjectTab(m_currentTab))
+        return;
+    const ObjectList &list = m_doc.list(kindOfTab(m_currentTab));
+    if (list.selected >= 0 && list.selected < static_cast<int>(list.lines.size()))
+        lstObjects_Click(m_currentTab);
+    else if (list.lines.empty())
+        coverFrame(m_currentTab)->setVisible(true);
+}
+
+void frmMain::showEditMenu()
+{
+    // A run of typing still open is what Undo takes back first.
+    const bool typing = m_typingRun;
+    m_ui.mnuUndo->setEnabled(typing || m_history->canUndo());
+    m_ui.mnuUndo->setText(typing ? QStringLiteral("Undo ") + menuText(RootFolderStepName)
+                          : m_history->canUndo()
+                              ? QStringLiteral("Undo ") + menuText(m_history->undoName())
+                              : QStringLiteral("Undo"));
+    const bool redo = !typing && m_history->canRedo();
+    m_ui.mnuRedo->setEnabled(redo);
+    m_ui.mnuRedo->setText(redo ? QStringLiteral("Redo ") + menuText(m_history->redoName())
+                               : QStringLiteral("Redo"));
+}
+
+void frmMain::showUnsavedMark()
+{
+    const bool unsaved = m_doc.ProjectInfo.projectOpen == -1 && m_history->unsaved();
+    m_unsavedMark->setText(unsaved ? QStringLiteral("Unsaved changes") : QString());
 }
 
 } // namespace vorlane

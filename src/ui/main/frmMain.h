@@ -1,8 +1,10 @@
 #pragma once
 
 #include "generate/GenerateState.h"
+#include "history/History.h"
 #include "model/modGlobal.h"
 #include "rules/References.h"
+#include "project/Open.h"
 
 #include "ui_frmMain.h"
 
@@ -11,8 +13,10 @@
 #include <array>
 #include <functional>
 #include <optional>
+#include <memory>
 #include <string>
 
+class QLabel;
 class QListWidget;
 
 namespace vorlane {
@@ -21,13 +25,16 @@ class ObjectListView;
 class UserInterface;
 class frmProgress;
 class ProblemsPanel;
+class RecoveryKeeper;
+class RecoveryStore;
 class Registry;
 class UsedByPanel;
 class frmFind;
+struct GenerateResult;
 struct QuickStats;
 
 // The main window: the tab strip with one page per kind of data, the object lists, the
-// quick statistics, the object buttons and the File and Help menus.
+// quick statistics, the object buttons and the File, Edit and Help menus.
 class frmMain : public QMainWindow
 {
     Q_OBJECT
@@ -44,6 +51,8 @@ public:
     void lstObjects_Click(int index);
     void lstObjects_DblClick(int index);
     void txtAppRootFolder_Change();
+    // The box lost the focus or Enter was pressed: the run of typing is one step.
+    void txtAppRootFolder_EditingFinished();
     void cmdObjAdd_Click();
     void cmdObjEdit_Click();
     void cmdObjRemove_Click();
@@ -59,6 +68,8 @@ public:
     void mnuAbout_Click();
     void mnuRename_Click();
     void mnuFind_Click();
+    void mnuUndo_Click();
+    void mnuRedo_Click();
     // The settings and log filter dialogs of the application and log pages.
     void cmdAppWindowProps_Click();
     void cmdAppSoundProps_Click();
@@ -67,6 +78,16 @@ public:
     void cmdLogEditType_Click();
     void cmdLogEditFile_Click();
     void cmdLogEditCustom_Click();
+
+    // Offers the recovery files of editors that no longer run, one question each, then keeps
+    // this editor's own recovery file in `store` (by default in the user's state folder).
+    void startRecovery();
+    void startRecovery(RecoveryStore store);
+    // Null until startRecovery.
+    RecoveryKeeper *recoveryKeeper() { return m_recovery; }
+    // Whether the document differs from the project file it was last saved to or opened from
+    // (or from the new project as it was made).
+    bool hasUnsavedChanges() const;
 
     void UpdateAppStats();
     void updateObjectStats(Kind kind, int slot);
@@ -92,6 +113,15 @@ public:
     void setEditor(Kind kind, EditorOpener opener);
 
     Document &document() { return m_doc; }
+    // The undo and redo history of the document.
+    History &history() { return *m_history; }
+    // Runs `change` as one step named `name` and then calls documentChanged() when recorded.
+    bool runStep(const std::string &name, const std::function<void()> &change);
+    // Called after every recorded step, undo and redo: refreshes the root folder box, the
+    // menus, the "Unsaved changes" mark (after undo and redo the lists and the quick
+    // statistics were shown anew just before; after a step its handler showed them); other
+    // features hook their refresh here.
+    void documentChanged();
     // How the window asks the user; editors that report something use it too.
     UserInterface &userInterface() { return m_userInterface; }
     frmProgress &progress();
@@ -126,10 +156,34 @@ private:
     // After a Save: what the saved file would not carry back, and what of the previous file
     // could not be kept, in the problems panel and the status line.
     void showSaveProblems(const std::vector<std::string> &notices);
+    // Says in the status bar what a generation wrote, and where.
+    void showGenerated(const GenerateResult &result);
     // Shows every list again after Open, Save or Generate changed them.
     void listsChanged();
     // Shows in Used By what refers to the selected object.
     void showUsedBy();
+    // Opens `path` as the current project once it is chosen.
+    OpenOutcome openChosen(const std::string &path);
+
+    // The steps around the handlers.
+    // Runs `change` as the step of New or Open; the first of a run begins the history instead.
+    void runProjectStep(const std::string &name, const std::function<void()> &change);
+    // Runs `write` (a Save or a Generate) and records the never-opened objects it took off the
+    // lists as a step of their own: the rest of the write is no step.
+    void recordRemovedNewObjects(const std::function<void()> &write);
+    // Closes the step a session opened (an editor's or a dialog's), named as it closes;
+    // `recordedBefore` is the history's count of recorded steps as the session began.
+    void endSession(const std::string &name, std::size_t recordedBefore);
+    // Ends the open run of typing in the root folder box, recording it.
+    void endTypingRun();
+    // The lists and the selected tab's quick statistics after undo or redo.
+    void showRestoredDocument();
+    void showEditMenu();
+    void showUnsavedMark();
+    // The quick statistics of the selected tab, as the document now holds them.
+    void showCurrentStats();
+    template<class Dialog, class... Args>
+    void runDialog(Args &&...args);
 
     Ui::frmMain m_ui;
     Document &m_doc;
@@ -147,6 +201,10 @@ private:
     std::array<EditorOpener, KindCount> m_editors;
     std::function<bool(const QUrl &)> m_openUrl;
     GenerateState m_generateState;
+    std::unique_ptr<History> m_history;
+    QLabel *m_unsavedMark = nullptr;
+    bool m_typingRun = false; // a run of typing in the root folder box is an open step
+    RecoveryKeeper *m_recovery = nullptr;
 };
 
 } // namespace vorlane

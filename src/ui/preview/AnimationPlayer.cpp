@@ -1,13 +1,17 @@
 #include "AnimationPlayer.h"
 
 #include "CellView.h"
+#include "model/modGlobal.h"
 #include "rules/PreviewTexts.h"
 
+#include <QFontMetrics>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QPushButton>
 #include <QTimer>
 #include <QVBoxLayout>
+
+#include <algorithm>
 
 namespace vorlane {
 
@@ -28,6 +32,7 @@ AnimationPlayer::AnimationPlayer(QWidget *parent, std::unique_ptr<AnimationClock
     row->addWidget(m_play);
     row->addWidget(m_delay, 1);
     layout->addLayout(row);
+    reserveRoomForTexts();
     m_timer = new QTimer(this);
     m_timer->setInterval(15);
     connect(m_timer, &QTimer::timeout, this, &AnimationPlayer::tick);
@@ -109,6 +114,43 @@ void AnimationPlayer::tick()
         m_timer->stop();
         m_play->setText(tr("Play"));
     }
+}
+
+void AnimationPlayer::reserveRoomForTexts()
+{
+    // The widest text each line can show, so that none is cut and the player keeps its width
+    // while the texts change frame after frame.
+    int playWidth = 0;
+    for (const QString &caption : {tr("Stop"), tr("Play")}) {
+        m_play->setText(caption);
+        playWidth = std::max(playWidth, m_play->sizeHint().width());
+    }
+    m_play->setFixedWidth(playWidth);
+    const QFontMetrics delayMetrics(m_delay->font());
+    const int delayWidth =
+        delayMetrics.horizontalAdvance(QString::fromStdString(delayText(WidestDelay))) +
+        2 * m_delay->margin() + 2 * m_delay->frameWidth();
+    m_delay->setMinimumWidth(delayWidth);
+    const QFontMetrics captionMetrics(font());
+    int captionWidth = 0;
+    for (const QString &caption : {tr("Frame %1 of %2").arg(SubSlotCount).arg(SubSlotCount) +
+                                       QStringLiteral(": ") + tr("cell %1").arg(WidestDelay),
+                                   tr("Stopped: no frame chosen")})
+        captionWidth = std::max(captionWidth, captionMetrics.horizontalAdvance(caption) + 2);
+    const int spacing = std::max(0, layout()->spacing());
+    const int width = std::max({SmallestSide, playWidth + spacing + delayWidth, captionWidth});
+    m_smallest = QSize(width, SmallestSide);
+}
+
+QSize AnimationPlayer::minimumSizeHint() const
+{
+    return m_smallest.expandedTo(QWidget::minimumSizeHint());
+}
+
+QSize AnimationPlayer::sizeHint() const
+{
+    // The same whatever the texts say: the column holding the player never jumps.
+    return minimumSizeHint();
 }
 
 int AnimationPlayer::shownCell() const

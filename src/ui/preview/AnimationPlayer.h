@@ -4,6 +4,7 @@
 #include "rules/AnimationTimeline.h"
 #include "rules/PictureSpec.h"
 
+#include <QSize>
 #include <QWidget>
 
 #include <cstdint>
@@ -54,8 +55,16 @@ public:
     QPushButton *playButton() const { return m_play; }
     QString delayCaption() const;
 
+    QSize minimumSizeHint() const override;
+    QSize sizeHint() const override;
+
 private:
+    // The smallest side of the player, and the widest number its texts show.
+    static constexpr int SmallestSide = 200;
+    static constexpr int WidestDelay = -32768;
+
     void showStill();
+    void reserveRoomForTexts();
 
     std::unique_ptr<AnimationClock> m_clock;
     std::vector<int16_t> m_cells;
@@ -68,6 +77,7 @@ private:
     QPushButton *m_play = nullptr;
     QLabel *m_delay = nullptr;
     QTimer *m_timer = nullptr;
+    QSize m_smallest;
 };
 
 } // namespace vorlane
