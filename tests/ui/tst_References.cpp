@@ -395,6 +395,120 @@ private slots:
         m_doc->ProjectInfo.projectFilePath.clear();
     }
 
+    void undoTakesARenameBackWholeAndRedoBringsItAgain()
+    {
+        // The icon names an image no one is called yet: after the rename it is one more
+        // reference, which Undo must give back as it was, not rename back.
+        button().iconId = "imgPlayer";
+        addObjectOn(*m_window, Kind::Text);
+        const QStringList broken{
+            "My Project: button \"btnPlay\": iconId \"imgPlayer\" names no image"};
+        QCOMPARE(listTexts(problems()), broken);
+        select(Kind::Image, 0);
+        const QStringList before{"Button \"btnPlay\": template", "Sprite \"sprHero\": image"};
+        const QStringList after{"Button \"btnPlay\": template",
+                                "Button \"btnPlay\": icon",
+                                "Sprite \"sprHero\": image"};
+        QCOMPARE(listTexts(usedBy()), before);
+        rename([](frmRename *dialog) {
+            typeName(dialog, QStringLiteral("imgPlayer"));
+            QTest::mouseClick(dialog->form().cmdRenameOK, Qt::LeftButton);
+        });
+        QCOMPARE(m_doc->Images[static_cast<size_t>(m_image)].id, std::string("imgPlayer"));
+        QCOMPARE(listTexts(usedBy()), after);
+        QCOMPARE(listTexts(problems()), QStringList{});
+        QCOMPARE(status(), QStringLiteral("No problems"));
+        QCOMPARE(m_window->form().mnuUndo->text(), QStringLiteral("Undo Rename Image \"imgHero\""));
+
+        m_window->form().mnuUndo->trigger();
+        QCOMPARE(m_doc->Images[static_cast<size_t>(m_image)].id, std::string("imgHero"));
+        QCOMPARE(listTexts(m_window->objectList(tabOf(Kind::Image))),
+                 (QStringList{"imgHero", "imgSky"}));
+        QCOMPARE(button().templateId, std::string("imgHero"));
+        QCOMPARE(button().iconId, std::string("imgPlayer"));
+        QCOMPARE(m_doc->Sprites[static_cast<size_t>(m_sprite)].imageId, std::string("imgHero"));
+        QCOMPARE(listTexts(usedBy()), before);
+        QCOMPARE(listTexts(problems()), broken);
+        QCOMPARE(status(), QStringLiteral("1 problem"));
+        // The rename was one step: the one before it is the Add.
+        QCOMPARE(m_window->form().mnuUndo->text(), QStringLiteral("Undo Add Text"));
+        QCOMPARE(m_window->form().mnuRedo->text(), QStringLiteral("Redo Rename Image \"imgHero\""));
+
+        m_window->form().mnuRedo->trigger();
+        QCOMPARE(m_doc->Images[static_cast<size_t>(m_image)].id, std::string("imgPlayer"));
+        QCOMPARE(listTexts(m_window->objectList(tabOf(Kind::Image))),
+                 (QStringList{"imgPlayer", "imgSky"}));
+        QCOMPARE(button().templateId, std::string("imgPlayer"));
+        QCOMPARE(button().iconId, std::string("imgPlayer"));
+        QCOMPARE(m_doc->Sprites[static_cast<size_t>(m_sprite)].imageId, std::string("imgPlayer"));
+        QCOMPARE(listTexts(usedBy()), after);
+        QCOMPARE(listTexts(problems()), QStringList{});
+        QCOMPARE(status(), QStringLiteral("No problems"));
+    }
+
+    void findFollowsUndoAndRedo()
+    {
+        m_window->form().mnuFind->trigger();
+        frmFind *find = m_window->findWindow();
+        QVERIFY(find);
+        QTest::keyClicks(find->form().txtFind, QStringLiteral("play"));
+        QCOMPARE(listTexts(find->form().lstFind), QStringList{"Button \"btnPlay\""});
+        select(Kind::Image, 0);
+        rename([](frmRename *dialog) {
+            typeName(dialog, QStringLiteral("imgPlayer"));
+            QTest::mouseClick(dialog->form().cmdRenameOK, Qt::LeftButton);
+        });
+        QCOMPARE(listTexts(find->form().lstFind),
+                 (QStringList{"Button \"btnPlay\"", "Image \"imgPlayer\""}));
+        m_window->form().mnuUndo->trigger();
+        QCOMPARE(listTexts(find->form().lstFind), QStringList{"Button \"btnPlay\""});
+        m_window->form().mnuRedo->trigger();
+        QCOMPARE(listTexts(find->form().lstFind),
+                 (QStringList{"Button \"btnPlay\"", "Image \"imgPlayer\""}));
+    }
+
+    void aProblemMendedInAnEditorComesBackWithUndo()
+    {
+        button().templateId = "imgGone";
+        addObjectOn(*m_window, Kind::Text);
+        const QStringList broken{
+            "My Project: button \"btnPlay\": templateId \"imgGone\" names no image"};
+        QCOMPARE(listTexts(problems()), broken);
+        QVERIFY(m_window->problemsPanel().isVisible());
+        select(Kind::Button, 0);
+        m_window->setEditor(Kind::Button, [this](frmMain &) { button().templateId = "imgSky"; });
+        clickButton(m_window->form().cmdObjEdit);
+        QCOMPARE(listTexts(problems()), QStringList{});
+        QVERIFY(!m_window->problemsPanel().isVisible());
+        QCOMPARE(status(), QStringLiteral("No problems"));
+
+        m_window->form().mnuUndo->trigger();
+        QCOMPARE(button().templateId, std::string("imgGone"));
+        QCOMPARE(listTexts(problems()), broken);
+        QVERIFY(m_window->problemsPanel().isVisible());
+        QCOMPARE(problemSummary(), QStringLiteral("1 problem"));
+        QCOMPARE(status(), QStringLiteral("1 problem"));
+
+        m_window->form().mnuRedo->trigger();
+        QCOMPARE(button().templateId, std::string("imgSky"));
+        QCOMPARE(listTexts(problems()), QStringList{});
+        QVERIFY(!m_window->problemsPanel().isVisible());
+        QCOMPARE(status(), QStringLiteral("No problems"));
+    }
+
+    void usedByFollowsAnUndoneEdit()
+    {
+        select(Kind::Image, 1);
+        QCOMPARE(listTexts(usedBy()), QStringList{"Not used by any object"});
+        m_window->setEditor(Kind::Image, [this](frmMain &) { button().iconId = "imgSky"; });
+        clickButton(m_window->form().cmdObjEdit);
+        QCOMPARE(listTexts(usedBy()), QStringList{"Button \"btnPlay\": icon"});
+        m_window->form().mnuUndo->trigger();
+        QCOMPARE(listTexts(usedBy()), QStringList{"Not used by any object"});
+        m_window->form().mnuRedo->trigger();
+        QCOMPARE(listTexts(usedBy()), QStringList{"Button \"btnPlay\": icon"});
+    }
+
     void checkProjectLinesOpenTheirObjectsToo()
     {
         button().soundUp = "sfxGone";

@@ -310,7 +310,6 @@ void frmMain::cmdObjAdd_Click()
         m_ui.cmdObjRemove->setEnabled(true);
         m_ui.cmdObjEdit->setEnabled(true);
     });
-    refreshChecks();
 }
 
 void frmMain::cmdObjEdit_Click()
@@ -334,7 +333,6 @@ void frmMain::cmdObjEdit_Click()
     // The step takes the id the object has when its editor closes.
     endSession(editStepName(kind, slotInTable(kind, slot) ? slotOf(m_doc, kind, slot).id : ""),
                recorded);
-    refreshChecks();
 }
 
 void frmMain::cmdObjRemove_Click()
@@ -356,7 +354,6 @@ void frmMain::cmdObjRemove_Click()
             coverFrame(m_currentTab)->setVisible(true);
         }
     });
-    refreshChecks();
 }
 
 void frmMain::projectOpened()
@@ -405,9 +402,9 @@ void frmMain::mnuNew_Click()
         for (Kind kind : ListOrder)
             showList(kind);
         selectFirstTab();
+        return true;
     });
     showUnsavedMark();
-    refreshChecks();
 }
 
 void frmMain::listsChanged()
@@ -431,8 +428,10 @@ void frmMain::mnuOpen_Click()
     // The whole Open is one step, a file read half-way included: undoing it brings back the
     // project that was open before.
     runProjectStep(openStepName(*path), [this, &path]() {
-        if (openChosen(*path).opened())
-            m_history->markSaved();
+        if (!openChosen(*path).opened())
+            return false;
+        m_history->markSaved();
+        return true;
     });
     showUnsavedMark();
 }
@@ -449,7 +448,6 @@ OpenOutcome frmMain::openChosen(const std::string &path)
         projectOpened();
     selectFirstTab();
     UpdateAppStats();
-    refreshChecks();
     return outcome;
 }
 
@@ -471,8 +469,10 @@ void frmMain::startRecovery(RecoveryStore store)
     for (const RecoveryFile &file : store.abandoned()) {
         if (m_userInterface.showMessage(recoveryQuestion(file)) == MessageAnswer::Yes) {
             runProjectStep(openStepName(file.path), [this, &file]() {
-                if (openChosen(file.path).opened())
-                    m_doc.openedFrom.clear();
+                if (!openChosen(file.path).opened())
+                    return false;
+                m_doc.openedFrom.clear();
+                return true;
             });
             showUnsavedMark();
         }
@@ -650,8 +650,11 @@ void frmMain::mnuRename_Click()
     frmRename dialog(m_doc, *object, this);
     if (dialog.exec() != QDialog::Accepted)
         return;
-    applyRename(*object, dialog.newId());
-    refreshChecks();
+    // Named by the line the user saw: a never-opened object's line, not its left-over id.
+    const ObjectList &list = m_doc.list(object->kind);
+    const std::string oldName = list.lines[static_cast<size_t>(list.selected)].text;
+    runStep(renameStepName(object->kind, oldName),
+            [this, &object, &dialog]() { applyRename(*object, dialog.newId()); });
 }
 
 void frmMain::mnuFind_Click()
@@ -667,11 +670,14 @@ void frmMain::mnuFind_Click()
 
 void frmMain::mnuGenDataAs_Click()
 {
-    recordRemovedNewObjects([this]() {
-        showGenerated(generateDataAs(m_doc, m_generateState, m_userInterface, progress()));
+    GenerateResult result;
+    recordRemovedNewObjects([this, &result]() {
+        result = generateDataAs(m_doc, m_generateState, m_userInterface, progress());
     });
     listsChanged();
     showUnsavedMark();
+    // After the step's refresh, so that the status line says what was written.
+    showGenerated(result);
     // Once a folder has been chosen, Generate Data may run again into it.
     if (m_generateState.generateAgainAvailable)
         m_ui.mnuGenData->setEnabled(true);
@@ -681,11 +687,14 @@ void frmMain::mnuGenData_Click()
 {
     if (!m_generateState.generateAgainAvailable)
         return;
-    recordRemovedNewObjects([this]() {
-        showGenerated(generateDataAgain(m_doc, m_generateState, m_userInterface, progress()));
+    GenerateResult result;
+    recordRemovedNewObjects([this, &result]() {
+        result = generateDataAgain(m_doc, m_generateState, m_userInterface, progress());
     });
     listsChanged();
     showUnsavedMark();
+    // After the step's refresh, so that the status line says what was written.
+    showGenerated(result);
 }
 
 void frmMain::showGenerated(const GenerateResult &result)
@@ -755,37 +764,31 @@ void frmMain::mnuAbout_Click()
 void frmMain::cmdAppWindowProps_Click()
 {
     runDialog<frmAppWindowProps>(m_doc, this);
-    refreshChecks();
 }
 
 void frmMain::cmdAppSoundProps_Click()
 {
     runDialog<frmAppSoundProps>(m_doc, this);
-    refreshChecks();
 }
 
 void frmMain::cmdAppSplashProps_Click()
 {
     runDialog<frmAppSplashProps>(m_doc, this);
-    refreshChecks();
 }
 
 void frmMain::cmdAppLogProps_Click()
 {
     runDialog<frmAppLogProps>(m_doc, this);
-    refreshChecks();
 }
 
 void frmMain::cmdLogEditType_Click()
 {
     runDialog<frmLogType>(m_doc, this);
-    refreshChecks();
 }
 
 void frmMain::cmdLogEditFile_Click()
 {
     runDialog<frmLogFile>(m_doc, this);
-    refreshChecks();
 }
 
 void frmMain::cmdLogEditCustom_Click()
@@ -804,16 +807,23 @@ bool frmMain::runStep(const std::string &name, const std::function<void()> &chan
     return recorded;
 }
 
-void frmMain::runProjectStep(const std::string &name, const std::function<void()> &change)
+void frmMain::runProjectStep(const std::string &name, const std::function<bool()> &change)
 {
     endTypingRun();
     // Before the first project of the run there is nothing to go back to.
     if (m_doc.ProjectInfo.projectOpen == 0) {
-        change();
+        const bool opened = change();
         showEditMenu();
+        // No step, yet the new project's problems and files are shown as after one.
+        if (opened)
+            refreshChecks();
         return;
     }
-    runStep(name, change);
+    bool opened = false;
+    // A project read again equal to the one open records no step, yet its files are looked
+    // for anew.
+    if (!runStep(name, [&change, &opened]() { opened = change(); }) && opened)
+        refreshChecks();
 }
 
 void frmMain::recordRemovedNewObjects(const std::function<void()> &write)
@@ -881,6 +891,8 @@ void frmMain::documentChanged()
     }
     showEditMenu();
     showUnsavedMark();
+    // The problems, Used By and Find follow every recorded step, undo and redo.
+    refreshChecks();
 }
 
 void frmMain::showRestoredDocument()

@@ -167,7 +167,8 @@ private:
 
     // The steps around the handlers.
     // Runs `change` as the step of New or Open; the first of a run begins the history instead.
-    void runProjectStep(const std::string &name, const std::function<void()> &change);
+    // `change` says whether a project was set up or opened: then the problems are shown.
+    void runProjectStep(const std::string &name, const std::function<bool()> &change);
     // Runs `write` (a Save or a Generate) and records the never-opened objects it took off the
     // lists as a step of their own: the rest of the write is no step.
     void recordRemovedNewObjects(const std::function<void()> &write);
