@@ -286,7 +286,7 @@ private:
 
 std::string fileBytes(const Document &doc)
 {
-    return projectFileBytes(doc).str();
+    return projectFileBytes(doc);
 }
 
 // The document at a position of the history, rebuilt from the start by the same edits.
