@@ -171,6 +171,7 @@ TEST(CheckCli, ReportsTextsTheEngineCannotReadAndExitsOne)
     TempFolder folder;
     const std::string path = folder.file("game.dvb");
     writeBytes(path, "\xEF\xBB\xBF" + project("imgButtons", "Квест Пр"));
+    writeButtonPicture(folder);
     const CliRun r = run({"check", path});
     EXPECT_EQ(r.code, 1);
     EXPECT_EQ(r.out,
