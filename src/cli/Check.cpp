@@ -10,7 +10,8 @@ namespace vorlane {
 
 int runCheck(const std::vector<std::string> &args, std::ostream &out, std::ostream &err)
 {
-    if (args.size() != 1) {
+    const bool strict = args.size() == 2 && args[1] == "--strict";
+    if (args.size() != 1 && !strict) {
         err << "vorlane-cli: check needs one argument, PROJECT.dvb; see vorlane-cli --help\n";
         return ExitUsage;
     }
@@ -22,10 +23,14 @@ int runCheck(const std::vector<std::string> &args, std::ostream &out, std::ostre
     if (!doc)
         return ExitFailure;
 
-    const std::vector<std::string> problems = checkProject(*doc, path);
-    for (const std::string &problem : problems)
-        out << problem << "\n";
-    return problems.empty() ? ExitSuccess : ExitFailure;
+    bool failed = false;
+    for (const ProjectProblem &problem : fullProjectCheck(*doc, path)) {
+        if (problem.warning)
+            out << "warning: ";
+        out << problem.line << "\n";
+        failed = failed || strict || !problem.warning;
+    }
+    return failed ? ExitFailure : ExitSuccess;
 }
 
 } // namespace vorlane

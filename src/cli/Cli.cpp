@@ -8,6 +8,7 @@
 #include "cli/Generate.h"
 #include "cli/Import.h"
 #include "cli/Merge.h"
+#include "cli/Rename.h"
 
 #include <ostream>
 
@@ -27,7 +28,10 @@ std::string cliHelpText()
            "               read the project file PROJECT.dvb and print what would break the\n"
            "               engine or the next Open, one problem a line (FILE: KIND \"ID\":\n"
            "               PROBLEM): references to missing objects, ids used twice, \"*\" in\n"
-           "               texts the engine ends at \"*\", blanks in ids and paths\n"
+           "               texts the engine ends at \"*\", blanks in ids and paths; then the\n"
+           "               files the game will not find (missing, or images that are not\n"
+           "               pictures), each line as \"warning: LINE\"; warnings alone exit with\n"
+           "               0, or with 1 when --strict follows PROJECT.dvb\n"
            "  convert IN.dvb OUT.dvb\n"
            "               read the project file IN.dvb and save it as OUT.dvb, which then\n"
            "               records OUT.dvb as its path; OUT.dvb is left alone if IN.dvb is\n"
@@ -55,6 +59,12 @@ std::string cliHelpText()
            "               into OUT.dvb, object by object and field by field; a field\n"
            "               changed both ways is a conflict, printed with both values, that\n"
            "               keeps ours; works as a git merge driver\n"
+           "  rename PROJECT.dvb KIND OLD NEW [OUT.dvb]\n"
+           "               give the object of KIND (button, cursor, image, text, font, music,\n"
+           "               sfx, sprite, scene) called OLD the identifier NEW, with every\n"
+           "               reference to it, and save the project as OUT.dvb (PROJECT.dvb\n"
+           "               itself, safely, when OUT.dvb is left out); exits with 1 when OLD\n"
+           "               names no object or NEW cannot be an identifier\n"
            "\n"
            "Exit codes:\n"
            "  0  success\n"
@@ -62,8 +72,9 @@ std::string cliHelpText()
            "  2  usage error (unknown command, missing or extra arguments)\n"
            "\n"
            "Errors are printed on standard error as \"vorlane-cli: FILE:LINE: message\".\n"
-           "convert and generate also print what check would report, each line as\n"
-           "\"vorlane-cli: warning: LINE\", and still exit with 0 when their work succeeds.\n"
+           "convert, generate and rename also print the problems check would report, each\n"
+           "line as \"vorlane-cli: warning: LINE\", and still exit with 0 when their work\n"
+           "succeeds.\n"
            "diff exits with 1 when the projects differ and with 2 on trouble, as diff does;\n"
            "merge exits with 1 when there were conflicts and with 2 on trouble.\n";
 }
@@ -97,6 +108,8 @@ int runCli(const std::vector<std::string> &args, std::ostream &out, std::ostream
         return runDiff({args.begin() + 1, args.end()}, out, err);
     if (command == "merge")
         return runMerge({args.begin() + 1, args.end()}, out, err);
+    if (command == "rename")
+        return runRename({args.begin() + 1, args.end()}, out, err);
     err << "vorlane-cli: unknown command \"" << command << "\"; see vorlane-cli --help\n";
     return ExitUsage;
 }

@@ -40,6 +40,11 @@ std::string removeStepName(Kind kind, const std::string &id)
     return "Remove " + kindStepName(kind) + " " + quoted(id);
 }
 
+std::string renameStepName(Kind kind, const std::string &oldId)
+{
+    return "Rename " + kindStepName(kind) + " " + quoted(oldId);
+}
+
 std::string openStepName(const std::string &path)
 {
     // Both separators: a project may name a Windows path.

@@ -16,6 +16,8 @@ std::string editStepName(Kind kind, const std::string &id);
 std::string addStepName(Kind kind);
 // Remove: Remove Image "imgHero".
 std::string removeStepName(Kind kind, const std::string &id);
+// Rename Object: Rename Image "imgHero", the name the object had.
+std::string renameStepName(Kind kind, const std::string &oldId);
 // Open of `path`: Open "game.dvb", the file's name without its folder.
 std::string openStepName(const std::string &path);
 // New, after its OK.

@@ -2,6 +2,7 @@
 
 #include "io/Cp1252.h"
 #include "model/Kinds.h"
+#include "project/MissingFiles.h"
 #include "project/ProjectLayout.h"
 #include "rules/SceneRules.h"
 
@@ -113,6 +114,7 @@ public:
     {
         for (Kind kind : ListOrder)
             forEachListed(kind, [&](const auto &rec) { m_ids[index(kind)].insert(rec.id); });
+        m_object.reset();
     }
 
     std::vector<ProjectProblem> run()
@@ -131,6 +133,7 @@ public:
                 checkCarried(rec);
             });
         }
+        m_object.reset();
         checkCustomFilters();
         return std::move(m_problems);
     }
@@ -141,13 +144,14 @@ private:
     // Calls `f` with the record of every line of the list of `kind`, in list order, leaving
     // out new objects and lines whose slot lies outside the table.
     template<class F>
-    void forEachListed(Kind kind, F &&f) const
+    void forEachListed(Kind kind, F &&f)
     {
         withTable(m_doc, kind, [&](const auto &table) {
             for (const ListLine &line : m_doc.list(kind).lines) {
                 if (!slotInTable(kind, line.slot))
                     continue;
                 const auto &rec = table[static_cast<size_t>(line.slot)];
+                m_object = ObjectRef{kind, line.slot};
                 if (rec.isNew != -1)
                     f(rec);
             }
@@ -159,7 +163,7 @@ private:
         std::string line;
         line.reserve(m_file.size() + m_subject.size() + problem.size() + 4);
         line.append(m_file).append(": ").append(m_subject).append(": ").append(problem);
-        m_problems.push_back({std::move(line), breaksProjectFile});
+        m_problems.push_back({std::move(line), breaksProjectFile, m_object});
     }
 
     // The texts of one line of the project file that it cannot carry; `prefix` names the
@@ -461,6 +465,7 @@ private:
     std::string_view m_file;
     std::array<std::unordered_set<std::string_view>, KindCount> m_ids;
     std::string m_subject;
+    std::optional<ObjectRef> m_object;
     std::vector<ProjectProblem> m_problems;
 };
 
@@ -475,6 +480,14 @@ bool projectFileCarries(std::string_view text)
 std::vector<ProjectProblem> findProjectProblems(const Document &doc, std::string_view file)
 {
     return Checker(doc, file).run();
+}
+
+std::vector<ProjectProblem> fullProjectCheck(const Document &doc, std::string_view file)
+{
+    std::vector<ProjectProblem> problems = findProjectProblems(doc, file);
+    for (ProjectProblem &warning : missingFileWarnings(doc, file))
+        problems.push_back(std::move(warning));
+    return problems;
 }
 
 std::vector<std::string> checkProject(const Document &doc, std::string_view file)

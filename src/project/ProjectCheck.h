@@ -1,7 +1,9 @@
 #pragma once
 
 #include "model/modGlobal.h"
+#include "rules/References.h"
 
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -23,6 +25,10 @@ struct ProjectProblem
 {
     std::string line;
     bool breaksProjectFile = false;
+    // The listed object the line is about; none for the settings, the lists and the filters.
+    std::optional<ObjectRef> object;
+    // A file the game will not find (missingFileWarnings): reported, yet the project is sound.
+    bool warning = false;
 };
 
 // checkProject's lines, each with what it hits.
@@ -30,6 +36,10 @@ std::vector<ProjectProblem> findProjectProblems(const Document &doc, std::string
 
 // The lines of checkProject that hit the project file only: what a Save shows at once.
 std::vector<std::string> projectFileProblems(const Document &doc, std::string_view file);
+
+// checkProject's problems followed by the warnings about files (missingFileWarnings): what
+// Check Project, the problems panel and `vorlane-cli check` report.
+std::vector<ProjectProblem> fullProjectCheck(const Document &doc, std::string_view file);
 
 // Whether the project file carries `text` back intact: it holds no line break and no double
 // quote directly followed by a comma, as nothing in a text is escaped.

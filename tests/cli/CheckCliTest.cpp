@@ -6,6 +6,7 @@
 
 #include <gtest/gtest.h>
 
+#include <filesystem>
 #include <sstream>
 #include <string>
 #include <vector>
@@ -33,11 +34,14 @@ CliRun run(std::vector<std::string> args)
     return {code, out.str(), err.str()};
 }
 
-// A project with one button on one image; `templateId` and `caption` vary per test.
-std::string project(const std::string &templateId, const std::string &caption)
+// A project with one button on one image; `templateId` and `caption` vary per test. The image's
+// file is "root/gfx/b.bmp" beside the project file `projectPath`.
+std::string project(const std::string &templateId,
+                    const std::string &caption,
+                    const std::string &projectPath = "/p/game.dvb")
 {
     std::vector<std::string> lines{"\"Game\"",
-                                   "\"/p/game.dvb\",\"/p/out/\"",
+                                   "\"" + projectPath + "\",\"/p/out/\"",
                                    "1",
                                    "0",
                                    "1",
@@ -58,11 +62,19 @@ std::string project(const std::string &templateId, const std::string &caption)
     return crlf(lines);
 }
 
+// Writes the picture the project of project() shows, beside `path`.
+void writeButtonPicture(const TempFolder &folder)
+{
+    std::filesystem::create_directories(folder.file("root/gfx"));
+    writeBytes(folder.file("root/gfx/b.bmp"), "BM");
+}
+
 TEST(CheckCli, ConsistentProjectExitsZeroAndPrintsNothing)
 {
     TempFolder folder;
     const std::string path = folder.file("game.dvb");
-    writeBytes(path, project("imgButtons", "Korrin Quest"));
+    writeBytes(path, project("imgButtons", "Korrin Quest", path));
+    writeButtonPicture(folder);
     const CliRun r = run({"check", path});
     EXPECT_EQ(r.code, 0);
     EXPECT_EQ(r.out, "");
@@ -73,7 +85,8 @@ TEST(CheckCli, PrintsEachProblemOnALineAndExitsOne)
 {
     TempFolder folder;
     const std::string path = folder.file("game.dvb");
-    writeBytes(path, project("imgGone", "Quest*"));
+    writeBytes(path, project("imgGone", "Quest*", path));
+    writeButtonPicture(folder);
     const CliRun r = run({"check", path});
     EXPECT_EQ(r.code, 1);
     EXPECT_EQ(r.out,
@@ -158,6 +171,7 @@ TEST(CheckCli, ReportsTextsTheEngineCannotReadAndExitsOne)
     TempFolder folder;
     const std::string path = folder.file("game.dvb");
     writeBytes(path, "\xEF\xBB\xBF" + project("imgButtons", "Квест Пр"));
+    writeButtonPicture(folder);
     const CliRun r = run({"check", path});
     EXPECT_EQ(r.code, 1);
     EXPECT_EQ(r.out,

@@ -9,8 +9,8 @@
 
 namespace vorlane::testsupport {
 
-// What `vorlane-cli check PATH` reports, as convert and generate print it on standard error:
-// each line as "vorlane-cli: warning: LINE", naming `file` instead of PATH.
+// The problems `vorlane-cli check PATH` reports, as convert and generate print them on standard
+// error: each line as "vorlane-cli: warning: LINE", naming `file` instead of PATH.
 inline std::string checkAsWarnings(const std::string &path, const std::string &file)
 {
     std::ostringstream out, err;
@@ -18,6 +18,9 @@ inline std::string checkAsWarnings(const std::string &path, const std::string &f
     std::istringstream lines(out.str());
     std::string warnings;
     for (std::string line; std::getline(lines, line);) {
+        // Files the game will not find are check's own warnings, not problems of the project.
+        if (line.rfind("warning: ", 0) == 0)
+            continue;
         EXPECT_EQ(line.rfind(path + ": ", 0), 0u) << line;
         warnings += "vorlane-cli: warning: " + file + line.substr(path.size()) + "\n";
     }

@@ -210,7 +210,7 @@ TEST_F(ManPageTest, SynopsisHasEveryCommandOfHelp)
     for (const auto &synopsis : help.synopses)
         expected.push_back("vorlane-cli " + synopsis);
     EXPECT_EQ(page.sections["SYNOPSIS"], expected);
-    EXPECT_EQ(expected.size(), 9u);
+    EXPECT_EQ(expected.size(), 10u);
 }
 
 TEST_F(ManPageTest, DescriptionBeginsWithTheWordsOfHelp)
@@ -225,7 +225,7 @@ TEST_F(ManPageTest, DescriptionBeginsWithTheWordsOfHelp)
 TEST_F(ManPageTest, CommandsAreThoseOfHelpWordForWord)
 {
     EXPECT_EQ(page.sections["COMMANDS"], help.commands);
-    ASSERT_EQ(help.commands.size(), 9u);
+    ASSERT_EQ(help.commands.size(), 10u);
     EXPECT_EQ(help.commands[2].substr(0, 40), "check PROJECT.dvb read the project file ");
 }
 

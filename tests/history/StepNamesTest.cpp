@@ -26,6 +26,13 @@ TEST(StepNames, EditAddAndRemoveNameTheKindAndTheId)
     EXPECT_EQ(removeStepName(Kind::SFX, ""), "Remove SFX \"\"");
 }
 
+TEST(StepNames, RenameNamesTheKindAndTheIdTheObjectHad)
+{
+    EXPECT_EQ(renameStepName(Kind::Image, "imgHero"), "Rename Image \"imgHero\"");
+    EXPECT_EQ(renameStepName(Kind::SFX, "New_Object3"), "Rename SFX \"New_Object3\"");
+    EXPECT_EQ(renameStepName(Kind::Music, "mus&Theme"), "Rename Music \"mus&Theme\"");
+}
+
 TEST(StepNames, OpenNamesTheFileWithoutItsFolder)
 {
     EXPECT_EQ(openStepName("/home/ann/games/game.dvb"), "Open \"game.dvb\"");

@@ -111,9 +111,13 @@ private slots:
         QCOMPARE(menus[2]->menu()->objectName(), QStringLiteral("mnuHelp"));
         QCOMPARE(m_window->form().mnuEdit->title(), QStringLiteral("&Edit"));
         const QList<QAction *> entries = m_window->form().mnuEdit->actions();
-        QCOMPARE(entries.size(), 2);
+        // Undo and Redo, then, past a separator, Rename Object and Find Object.
+        QCOMPARE(entries.size(), 5);
         QCOMPARE(entries[0]->objectName(), QStringLiteral("mnuUndo"));
         QCOMPARE(entries[1]->objectName(), QStringLiteral("mnuRedo"));
+        QVERIFY(entries[2]->isSeparator());
+        QCOMPARE(entries[3]->objectName(), QStringLiteral("mnuRename"));
+        QCOMPARE(entries[4]->objectName(), QStringLiteral("mnuFind"));
         QCOMPARE(undo()->shortcuts(),
                  QList<QKeySequence>({QKeySequence(QStringLiteral("Ctrl+Z"))}));
         QCOMPARE(redo()->shortcuts(),

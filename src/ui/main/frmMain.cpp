@@ -7,6 +7,11 @@
 #include "QuickStatsView.h"
 #include "ProblemsPanel.h"
 #include "ProjectFileWatcher.h"
+#include "UsedByPanel.h"
+#include "frmFind.h"
+#include "frmRename.h"
+#include "project/CheckSummary.h"
+#include "rules/ObjectRename.h"
 #include "RecoveryKeeper.h"
 #include "io/SystemFileOps.h"
 #include "project/ProjectCheck.h"
@@ -110,6 +115,21 @@ frmMain::frmMain(Document &doc, UserInterface &userInterface, QWidget *parent)
             showFileChange(line, replaced);
         },
         this);
+    m_problemsPanel->setOpener([this](ObjectRef object) { openObject(object); });
+    m_usedByPanel = new UsedByPanel(this);
+    // Under the lists, beside the problems: the tab strip keeps the window's whole width.
+    addDockWidget(Qt::BottomDockWidgetArea, m_usedByPanel);
+    splitDockWidget(m_problemsPanel, m_usedByPanel, Qt::Horizontal);
+    resizeDocks({m_usedByPanel}, {140}, Qt::Vertical);
+    // The problems' long lines take two thirds of the width the first time they show.
+    connect(m_problemsPanel, &QDockWidget::visibilityChanged, this, [this](bool visible) {
+        if (!visible || m_docksShared)
+            return;
+        m_docksShared = true;
+        resizeDocks(
+            {m_problemsPanel, m_usedByPanel}, {width() * 2 / 3, width() / 3}, Qt::Horizontal);
+    });
+    m_usedByPanel->setOpener([this](ObjectRef object) { openObject(object); });
     setUpTabs();
     connectHandlers();
     Form_Load();
@@ -158,6 +178,8 @@ void frmMain::connectHandlers()
     connect(m_ui.mnuExit, &QAction::triggered, this, &frmMain::mnuExit_Click);
     connect(m_ui.mnuOnlineHelp, &QAction::triggered, this, &frmMain::mnuOnlineHelp_Click);
     connect(m_ui.mnuAbout, &QAction::triggered, this, &frmMain::mnuAbout_Click);
+    connect(m_ui.mnuRename, &QAction::triggered, this, &frmMain::mnuRename_Click);
+    connect(m_ui.mnuFind, &QAction::triggered, this, &frmMain::mnuFind_Click);
     connect(m_ui.mnuUndo, &QAction::triggered, this, &frmMain::mnuUndo_Click);
     connect(m_ui.mnuRedo, &QAction::triggered, this, &frmMain::mnuRedo_Click);
     connect(m_ui.cmdAppWindowProps, &QPushButton::clicked, this, &frmMain::cmdAppWindowProps_Click);
@@ -215,6 +237,7 @@ void frmMain::DataTabStrip_Click(int tab)
         m_doc.list(kindOfTab(tab)).selected = 0;
         showList(kindOfTab(tab));
     }
+    showUsedBy();
 }
 
 void frmMain::showList(Kind kind)
@@ -231,6 +254,7 @@ void frmMain::lstObjects_Click(int index)
     if (list.selected < 0 || list.selected >= static_cast<int>(list.lines.size()))
         return;
     updateObjectStats(kind, list.lines[static_cast<size_t>(list.selected)].slot);
+    showUsedBy();
 }
 
 void frmMain::lstObjects_DblClick(int index)
@@ -383,6 +407,7 @@ void frmMain::mnuNew_Click()
         for (Kind kind : ListOrder)
             showList(kind);
         selectFirstTab();
+        return true;
     });
     showUnsavedMark();
 }
@@ -408,8 +433,10 @@ void frmMain::mnuOpen_Click()
     // The whole Open is one step, a file read half-way included: undoing it brings back the
     // project that was open before.
     runProjectStep(openStepName(*path), [this, &path]() {
-        if (openChosen(*path).opened())
-            m_history->markSaved();
+        if (!openChosen(*path).opened())
+            return false;
+        m_history->markSaved();
+        return true;
     });
     showUnsavedMark();
 }
@@ -448,8 +475,10 @@ void frmMain::startRecovery(RecoveryStore store)
     for (const RecoveryFile &file : store.abandoned()) {
         if (m_userInterface.showMessage(recoveryQuestion(file)) == MessageAnswer::Yes) {
             runProjectStep(openStepName(file.path), [this, &file]() {
-                if (openChosen(file.path).opened())
-                    m_doc.openedFrom.clear();
+                if (!openChosen(file.path).opened())
+                    return false;
+                m_doc.openedFrom.clear();
+                return true;
             });
             showUnsavedMark();
         }
@@ -534,9 +563,13 @@ void frmMain::showSaveProblems(const std::vector<std::string> &notices)
     m_history->markSaved();
     showUnsavedMark();
     const std::string path = projectSavePath(m_doc);
-    std::vector<std::string> lines = notices;
-    for (std::string &problem : projectFileProblems(m_doc, path))
-        lines.push_back(std::move(problem));
+    std::vector<ProjectProblem> lines;
+    for (const std::string &notice : notices)
+        lines.push_back({notice, false, std::nullopt, false});
+    for (ProjectProblem &problem : findProjectProblems(m_doc, path)) {
+        if (problem.breaksProjectFile)
+            lines.push_back(std::move(problem));
+    }
     if (lines.empty()) {
         m_problemsPanel->clearProblems();
         statusBar()->showMessage(QStringLiteral("Saved \"%1\"").arg(qs(path)));
@@ -549,7 +582,7 @@ void frmMain::showSaveProblems(const std::vector<std::string> &notices)
                  lines.size() == 1 ? QStringLiteral("1 problem")
                                    : QStringLiteral("%1 problems").arg(lines.size()));
     statusBar()->showMessage(summary);
-    m_problemsPanel->showProblems(summary, lines);
+    m_problemsPanel->showReport(summary, lines);
 }
 
 void frmMain::mnuCheckProject_Click()
@@ -560,23 +593,118 @@ void frmMain::mnuCheckProject_Click()
     }
     // The lines name the project file, or the project when it has none yet.
     const std::string path = projectSavePath(m_doc);
-    const std::vector<std::string> problems =
-        checkProject(m_doc, path.empty() ? m_doc.ProjectInfo.projectName : path);
+    const std::vector<ProjectProblem> problems =
+        fullProjectCheck(m_doc, path.empty() ? m_doc.ProjectInfo.projectName : path);
     const QString summary =
         problems.empty() ? QStringLiteral("Check Project: no problems found.")
         : problems.size() == 1
             ? QStringLiteral("Check Project: 1 problem found.")
             : QStringLiteral("Check Project: %1 problems found.").arg(problems.size());
     statusBar()->showMessage(summary);
-    m_problemsPanel->showProblems(summary, problems);
+    m_problemsPanel->showReport(summary, problems);
+}
+
+void frmMain::refreshChecks()
+{
+    showUsedBy();
+    if (m_find)
+        m_find->txtFind_Change();
+    if (m_doc.ProjectInfo.projectOpen == 0)
+        return;
+    const std::string path = projectSavePath(m_doc);
+    const std::vector<ProjectProblem> problems =
+        fullProjectCheck(m_doc, path.empty() ? m_doc.ProjectInfo.projectName : path);
+    const QString summary = QString::fromStdString(checkSummary(problems));
+    statusBar()->showMessage(summary);
+    m_problemsPanel->updateProblems(summary, problems);
+}
+
+std::optional<ObjectRef> frmMain::selectedObject() const
+{
+    if (!isObjectTab(m_currentTab))
+        return std::nullopt;
+    const Kind kind = kindOfTab(m_currentTab);
+    const ObjectList &list = m_doc.list(kind);
+    if (list.selected < 0 || list.selected >= static_cast<int>(list.lines.size()))
+        return std::nullopt;
+    const int slot = list.lines[static_cast<size_t>(list.selected)].slot;
+    if (!slotInTable(kind, slot))
+        return std::nullopt;
+    return ObjectRef{kind, slot};
+}
+
+void frmMain::showUsedBy()
+{
+    m_usedByPanel->showObject(m_doc, selectedObject());
+}
+
+void frmMain::selectObject(ObjectRef object)
+{
+    if (m_doc.ProjectInfo.projectOpen == 0)
+        return;
+    DataTabStrip_Click(tabOf(object.kind));
+    ObjectList &list = m_doc.list(object.kind);
+    for (size_t line = 0; line < list.lines.size(); ++line) {
+        if (list.lines[line].slot == object.slot) {
+            list.selected = static_cast<int>(line);
+            showList(object.kind);
+            break;
+        }
+    }
+}
+
+void frmMain::openObject(ObjectRef object)
+{
+    selectObject(object);
+    if (selectedObject() == object)
+        cmdObjEdit_Click();
+}
+
+bool frmMain::applyRename(ObjectRef object, const std::string &newId)
+{
+    if (renameObject(m_doc, object, newId).refusal)
+        return false;
+    for (Kind kind : ListOrder)
+        showList(kind);
+    return true;
+}
+
+void frmMain::mnuRename_Click()
+{
+    const std::optional<ObjectRef> object = selectedObject();
+    if (!object)
+        return;
+    frmRename dialog(m_doc, *object, this);
+    if (dialog.exec() != QDialog::Accepted)
+        return;
+    // Named by the line the user saw: a never-opened object's line, not its left-over id.
+    const ObjectList &list = m_doc.list(object->kind);
+    const std::string oldName = list.lines[static_cast<size_t>(list.selected)].text;
+    runStep(renameStepName(object->kind, oldName),
+            [this, &object, &dialog]() { applyRename(*object, dialog.newId()); });
+}
+
+void frmMain::mnuFind_Click()
+{
+    if (!m_find)
+        m_find = new frmFind(
+            m_doc, [this](ObjectRef object) { selectObject(object); }, this);
+    m_find->show();
+    m_find->raise();
+    m_find->activateWindow();
+    m_find->form().txtFind->setFocus();
 }
 
 void frmMain::mnuGenDataAs_Click()
 {
-    recordRemovedNewObjects(
-        [this]() { showGenerated(generateDataAs(m_doc, m_generateState, m_userInterface, progress())); });
+    GenerateResult result;
+    recordRemovedNewObjects([this, &result]() {
+        result = generateDataAs(m_doc, m_generateState, m_userInterface, progress());
+    });
     listsChanged();
     showUnsavedMark();
+    // After the step's refresh, so that the status line says what was written.
+    showGenerated(result);
     // Once a folder has been chosen, Generate Data may run again into it.
     if (m_generateState.generateAgainAvailable)
         m_ui.mnuGenData->setEnabled(true);
@@ -586,10 +714,14 @@ void frmMain::mnuGenData_Click()
 {
     if (!m_generateState.generateAgainAvailable)
         return;
-    recordRemovedNewObjects(
-        [this]() { showGenerated(generateDataAgain(m_doc, m_generateState, m_userInterface, progress())); });
+    GenerateResult result;
+    recordRemovedNewObjects([this, &result]() {
+        result = generateDataAgain(m_doc, m_generateState, m_userInterface, progress());
+    });
     listsChanged();
     showUnsavedMark();
+    // After the step's refresh, so that the status line says what was written.
+    showGenerated(result);
 }
 
 void frmMain::showGenerated(const GenerateResult &result)
@@ -702,16 +834,23 @@ bool frmMain::runStep(const std::string &name, const std::function<void()> &chan
     return recorded;
 }
 
-void frmMain::runProjectStep(const std::string &name, const std::function<void()> &change)
+void frmMain::runProjectStep(const std::string &name, const std::function<bool()> &change)
 {
     endTypingRun();
     // Before the first project of the run there is nothing to go back to.
     if (m_doc.ProjectInfo.projectOpen == 0) {
-        change();
+        const bool opened = change();
         showEditMenu();
+        // No step, yet the new project's problems and files are shown as after one.
+        if (opened)
+            refreshChecks();
         return;
     }
-    runStep(name, change);
+    bool opened = false;
+    // A project read again equal to the one open records no step, yet its files are looked
+    // for anew.
+    if (!runStep(name, [&change, &opened]() { opened = change(); }) && opened)
+        refreshChecks();
 }
 
 void frmMain::recordRemovedNewObjects(const std::function<void()> &write)
@@ -779,6 +918,8 @@ void frmMain::documentChanged()
     }
     showEditMenu();
     showUnsavedMark();
+    // The problems, Used By and Find follow every recorded step, undo and redo.
+    refreshChecks();
 }
 
 void frmMain::showRestoredDocument()

@@ -3,6 +3,7 @@
 #include "generate/GenerateState.h"
 #include "history/History.h"
 #include "model/modGlobal.h"
+#include "rules/References.h"
 #include "project/Open.h"
 
 #include "ui_frmMain.h"
@@ -11,6 +12,7 @@
 
 #include <array>
 #include <functional>
+#include <optional>
 #include <memory>
 #include <string>
 
@@ -28,6 +30,8 @@ class RecoveryStore;
 class ProjectFileWatcher;
 struct SaveResult;
 class Registry;
+class UsedByPanel;
+class frmFind;
 struct GenerateResult;
 struct QuickStats;
 
@@ -64,6 +68,8 @@ public:
     void mnuExit_Click();
     void mnuOnlineHelp_Click();
     void mnuAbout_Click();
+    void mnuRename_Click();
+    void mnuFind_Click();
     void mnuUndo_Click();
     void mnuRedo_Click();
     // The settings and log filter dialogs of the application and log pages.
@@ -92,6 +98,19 @@ public:
     // refreshes the quick statistics as a click would.
     void showList(Kind kind);
 
+    // The object selected in the list of the current tab; none on the other tabs.
+    std::optional<ObjectRef> selectedObject() const;
+    // Shows `object` in its tab with its line selected, as a click on the line would.
+    void selectObject(ObjectRef object);
+    // Selects `object` and opens its editor, as Edit Properties does.
+    void openObject(ObjectRef object);
+    // Gives `object` the identifier `newId` with every reference to it and shows the lists
+    // again; false when refused. The change of one history step "Rename KIND "OLD"".
+    bool applyRename(ObjectRef object, const std::string &newId);
+    // Brings the problems panel, the status line, Used By and Find up to date with the
+    // document: run after every step.
+    void refreshChecks();
+
     // The editor opened by Edit for `kind`; without one, Edit only sets the index.
     void setEditor(Kind kind, EditorOpener opener);
 
@@ -109,6 +128,9 @@ public:
     UserInterface &userInterface() { return m_userInterface; }
     frmProgress &progress();
     ProblemsPanel &problemsPanel() { return *m_problemsPanel; }
+    UsedByPanel &usedByPanel() { return *m_usedByPanel; }
+    // The Find window, once Edit > Find Object has opened it.
+    frmFind *findWindow() const { return m_find; }
     int currentTab() const { return m_currentTab; }
     QListWidget *objectList(int tab) const { return m_lists[static_cast<size_t>(tab)]; }
     QFrame *tabFrame(int tab) const { return m_tabs[static_cast<size_t>(tab)]; }
@@ -145,12 +167,15 @@ private:
     void showGenerated(const GenerateResult &result);
     // Shows every list again after Open, Save or Generate changed them.
     void listsChanged();
+    // Shows in Used By what refers to the selected object.
+    void showUsedBy();
     // Opens `path` as the current project once it is chosen.
     OpenOutcome openChosen(const std::string &path);
 
     // The steps around the handlers.
     // Runs `change` as the step of New or Open; the first of a run begins the history instead.
-    void runProjectStep(const std::string &name, const std::function<void()> &change);
+    // `change` says whether a project was set up or opened: then the problems are shown.
+    void runProjectStep(const std::string &name, const std::function<bool()> &change);
     // Runs `write` (a Save or a Generate) and records the never-opened objects it took off the
     // lists as a step of their own: the rest of the write is no step.
     void recordRemovedNewObjects(const std::function<void()> &write);
@@ -174,6 +199,9 @@ private:
     frmProgress *m_progress = nullptr;
     ProblemsPanel *m_problemsPanel = nullptr;
     ProjectFileWatcher *m_fileWatcher = nullptr;
+    UsedByPanel *m_usedByPanel = nullptr;
+    frmFind *m_find = nullptr;
+    bool m_docksShared = false; // the problems and Used By panels have had their widths
     int m_currentTab = 0;
     std::array<QListWidget *, TabCount + 1> m_lists{};
     std::array<ObjectListView *, TabCount + 1> m_listViews{};
