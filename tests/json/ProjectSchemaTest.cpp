@@ -40,8 +40,7 @@ TEST(ProjectSchema, EveryExportHoldsToTheSchema)
     for (unsigned seed = 1; seed <= 12; ++seed) {
         auto doc = RandomProject(seed, false).make();
         removeNewObjects(*doc);
-        ASSERT_EQ(schema.errors(exported(projectFileBytes(*doc))), Lines{})
-            << "seed " << seed;
+        ASSERT_EQ(schema.errors(exported(projectFileBytes(*doc))), Lines{}) << "seed " << seed;
     }
 }
 

@@ -314,8 +314,8 @@ private slots:
         // The move alone goes back: the layer added before the drag stays.
         QCOMPARE(m_doc->Buttons[0].x, int16_t(300));
         QCOMPARE(m_doc->Buttons[0].y, int16_t(300));
-        const SceneRec &scene = m_doc->Scenes[static_cast<size_t>(
-            m_doc->list(Kind::Scene).lines.back().slot)];
+        const SceneRec &scene =
+            m_doc->Scenes[static_cast<size_t>(m_doc->list(Kind::Scene).lines.back().slot)];
         QCOMPARE(scene.layerCount, int16_t(1));
         QCOMPARE(redo->text(), QStringLiteral("Redo Move Button \"btnPlay\""));
         QVERIFY(undo->text().startsWith(QStringLiteral("Undo Edit Scene ")));

@@ -504,9 +504,7 @@ bool frmMain::saveProject()
     if (m_doc.ProjectInfo.projectFilePath.empty())
         return saveProjectAs();
     SaveResult result;
-    recordRemovedNewObjects([this, &result]() {
-        result = writeProject(false);
-    });
+    recordRemovedNewObjects([this, &result]() { result = writeProject(false); });
     listsChanged();
     if (result.written())
         showSaveProblems(result.notices);
@@ -527,9 +525,7 @@ bool frmMain::saveProjectAs()
     // A name typed without an extension gets ".dvb", so that Open's filter shows the file.
     recordChosenPath(m_doc, withProjectExtension(*path));
     SaveResult result;
-    recordRemovedNewObjects([this, &result]() {
-        result = writeProject(true);
-    });
+    recordRemovedNewObjects([this, &result]() { result = writeProject(true); });
     listsChanged();
     m_ui.mnuSave->setEnabled(true);
     if (result.written())
