@@ -135,7 +135,9 @@ struct Differ
         }
     }
 
-    // Items matched by position: "layer 3 removed", "frame 2 cell 4 -> 5".
+    // Items matched by position: "layer 3 removed", "frame 2 cell 4 -> 5". The runs of equal
+    // items at both ends are passed over first, so that one item taken out of the middle is
+    // named as removed rather than as every later item changing.
     void positional(const std::string &subject,
                     const std::string &item,
                     const std::string &label,
@@ -144,19 +146,28 @@ struct Differ
     {
         const Json &a = orEmpty(listA);
         const Json &b = orEmpty(listB);
-        const size_t both = std::min(a.size(), b.size());
-        for (size_t i = 0; i < both; ++i) {
-            const std::string name = item + std::to_string(i + 1);
+        const size_t shorter = std::min(a.size(), b.size());
+        size_t head = 0;
+        while (head < shorter && a[head] == b[head])
+            ++head;
+        size_t tail = 0;
+        while (tail < shorter - head && a[a.size() - 1 - tail] == b[b.size() - 1 - tail])
+            ++tail;
+        const size_t endA = a.size() - tail;
+        const size_t endB = b.size() - tail;
+        const size_t both = std::min(endA, endB);
+        for (size_t i = head; i < both; ++i) {
             if (a[i] == b[i])
                 continue;
+            const std::string name = item + std::to_string(i + 1);
             if (a[i].is_object() && b[i].is_object())
                 record(subject, name + " ", &a[i], &b[i], false);
             else
                 add(subject, name + " " + label + a[i].dump() + " -> " + b[i].dump());
         }
-        for (size_t i = both; i < a.size(); ++i)
+        for (size_t i = both; i < endA; ++i)
             add(subject, item + std::to_string(i + 1) + " removed");
-        for (size_t i = both; i < b.size(); ++i)
+        for (size_t i = both; i < endB; ++i)
             add(subject, item + std::to_string(i + 1) + " added");
     }
 };

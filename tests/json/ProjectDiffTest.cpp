@@ -83,6 +83,22 @@ TEST(ProjectDiff, LayersFramesAndAnimationsAreComparedInside)
                      "scene \"scn\": layer 3 removed"}));
 }
 
+TEST(ProjectDiff, ALayerTakenOutOfTheMiddleIsNamedAsRemoved)
+{
+    Json a = smallJson();
+    Json &layers = a["scenes"][0]["layers"];
+    for (const char *id : {"btn", "img", "spr", "txt", "cur"})
+        layers.push_back({{"objectId", id}, {"objectKind", 4}});
+    Json b = a;
+    b["scenes"][0]["layers"].erase(2); // the third layer
+    EXPECT_EQ(diffProjects(a, b), (Lines{"scene \"scn\": layer 3 removed"}));
+    EXPECT_EQ(diffProjects(b, a), (Lines{"scene \"scn\": layer 3 added"}));
+
+    Json c = a;
+    c["scenes"][0]["layers"][3]["objectKind"] = 1;
+    EXPECT_EQ(diffProjects(a, c), (Lines{"scene \"scn\": layer 4 objectKind 4 -> 1"}));
+}
+
 TEST(ProjectDiff, SettingsProjectAndLogHaveLinesOfTheirOwn)
 {
     const Json a = smallJson();

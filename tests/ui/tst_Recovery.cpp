@@ -255,6 +255,23 @@ private slots:
         QVERIFY(!QFile::exists(path(QStringLiteral("lost.dvb"))));
     }
 
+    void yesOnAFileThatCannotBeOpenedKeepsIt()
+    {
+        const QString left = QString::fromStdString(leaveRecoveryFile(endedProcessId(), 77));
+        QFile emptied(left);
+        QVERIFY(emptied.open(QIODevice::WriteOnly | QIODevice::Truncate));
+        emptied.close();
+        m_ui->answers = {MessageAnswer::Yes};
+        m_window->startRecovery();
+        QCOMPARE(m_ui->messages.size(), size_t{2});
+        QCOMPARE(QString::fromStdString(m_ui->messages[0].title),
+                 QStringLiteral("Recover Project"));
+        QCOMPARE(QString::fromStdString(m_ui->messages[1].text),
+                 QStringLiteral("Could not load data - file empty!"));
+        // Nothing was recovered from it, so it stays for another try.
+        QVERIFY(QFile::exists(left));
+    }
+
     void noDiscardsTheFile()
     {
         const QString left = QString::fromStdString(leaveRecoveryFile(endedProcessId(), 77));

@@ -232,6 +232,21 @@ private slots:
         QCOMPARE(listTexts(m_window->objectList(tabOf(Kind::Button))), QStringList{"btnPlay"});
     }
 
+    void aLongIdentifierIsShownWholeAndKept()
+    {
+        const std::string longId = "img" + std::string(40000, 'x');
+        m_doc->Images[static_cast<size_t>(m_sky)].id = longId;
+        m_doc->list(Kind::Image).lines[1].text = longId;
+        m_window->showList(Kind::Image);
+        select(Kind::Image, 1);
+        rename([](frmRename *dialog) {
+            QCOMPARE(dialog->form().txtRenameID->text().size(), 40003);
+            // OK without typing keeps the name as it was, whole.
+            QTest::mouseClick(dialog->form().cmdRenameOK, Qt::LeftButton);
+        });
+        QCOMPARE(m_doc->Images[static_cast<size_t>(m_sky)].id, longId);
+    }
+
     void findSelectsTheObjectInItsTab()
     {
         select(Kind::Button, 0);

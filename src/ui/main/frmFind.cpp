@@ -1,5 +1,7 @@
 #include "frmFind.h"
 
+#include "TextLength.h"
+
 namespace vorlane {
 
 frmFind::frmFind(const Document &doc, Selector select, QWidget *parent)
@@ -8,6 +10,7 @@ frmFind::frmFind(const Document &doc, Selector select, QWidget *parent)
     , m_select(std::move(select))
 {
     m_ui.setupUi(this);
+    allowAnyLength(this);
     connect(m_ui.txtFind, &QLineEdit::textChanged, this, &frmFind::txtFind_Change);
     connect(m_ui.txtFind, &QLineEdit::returnPressed, this, &frmFind::txtFind_Return);
     connect(m_ui.lstFind, &QListWidget::itemDoubleClicked, this, &frmFind::lstFind_DblClick);

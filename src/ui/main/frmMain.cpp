@@ -472,21 +472,32 @@ void frmMain::startRecovery(RecoveryStore store)
     // Each file is kept until its question is answered; Yes opens it like Open (a step that
     // can be undone), except that the project keeps the path recorded inside it, and its
     // changes stay unsaved.
+    std::vector<RecoveryFile> recovered;
     for (const RecoveryFile &file : store.abandoned()) {
-        if (m_userInterface.showMessage(recoveryQuestion(file)) == MessageAnswer::Yes) {
-            runProjectStep(openStepName(file.path), [this, &file]() {
-                if (!openChosen(file.path).opened())
-                    return false;
-                m_doc.openedFrom.clear();
-                return true;
-            });
-            showUnsavedMark();
+        if (m_userInterface.showMessage(recoveryQuestion(file)) != MessageAnswer::Yes) {
+            RecoveryStore::remove(file);
+            continue;
         }
-        RecoveryStore::remove(file);
+        bool opened = false;
+        runProjectStep(openStepName(file.path), [this, &file, &opened]() {
+            if (!openChosen(file.path).opened())
+                return false;
+            m_doc.openedFrom.clear();
+            opened = true;
+            return true;
+        });
+        showUnsavedMark();
+        // A file that could not be opened is kept: it may hold the only copy of that work.
+        if (opened)
+            recovered.push_back(file);
     }
     m_recovery = new RecoveryKeeper(
         m_doc, std::move(store), [this] { return hasUnsavedChanges(); }, this);
     m_recovery->start();
+    // The recovered state is in this editor's own file before the file it came from goes.
+    m_recovery->poll();
+    for (const RecoveryFile &file : recovered)
+        RecoveryStore::remove(file);
 }
 
 void frmMain::mnuSave_Click()
@@ -578,6 +589,9 @@ void frmMain::showSaveProblems(const std::vector<std::string> &notices)
                  lines.size() == 1 ? QStringLiteral("1 problem")
                                    : QStringLiteral("%1 problems").arg(lines.size()));
     statusBar()->showMessage(summary);
+    // A Save's report replaces what the panel said before it, the notes of a change on disk
+    // included: the Save has dealt with that change.
+    m_problemsPanel->clearProblems();
     m_problemsPanel->showReport(summary, lines);
 }
 

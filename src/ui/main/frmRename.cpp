@@ -1,5 +1,6 @@
 #include "frmRename.h"
 
+#include "TextLength.h"
 #include "rules/ObjectRename.h"
 
 namespace vorlane {
@@ -10,6 +11,7 @@ frmRename::frmRename(const Document &doc, ObjectRef object, QWidget *parent)
     , m_object(object)
 {
     m_ui.setupUi(this);
+    allowAnyLength(this);
     const std::string id = objectIdentifier(doc, object);
     setWindowTitle(
         QStringLiteral("Rename %1 \"%2\"")
